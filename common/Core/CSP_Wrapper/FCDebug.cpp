@@ -1,0 +1,2 @@
+// placeholder until the runtime lands
+#include "FCDebug.h"

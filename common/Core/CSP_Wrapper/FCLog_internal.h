@@ -1,0 +1,67 @@
+// The library's log conventions in one place.
+//
+// Every line goes to the platform log with the tag "zunde-provider" and starts
+// with one of two prefixes:
+//   "%s: %s(%d) > DBG_LV[%d]"   source file, function, line, debug level
+//   "%s: %s(%d) > [%d][%d]"     source file, function, line, module 16, level
+// Information lines go to the main log, warning lines to the system log.
+//
+// A line with arguments of its own is written in one statement:
+//   FC_LOG_WARN(0, "[FCAPI::%s] already initialized\n", __func__);
+// A fixed line that a shared mechanism writes on behalf of its caller is a
+// `LogLine` value, written with `WriteLogLine` at the caller's `LogSite`.
+#ifndef ZUNDE_FCLOG_INTERNAL_H
+#define ZUNDE_FCLOG_INTERNAL_H
+
+#include <dlog.h>
+
+namespace zunde {
+
+inline constexpr const char* kLogTag = "zunde-provider";
+inline constexpr int kLogModuleNumber = 16;
+
+// The source position a line is reported from.
+struct LogSite {
+  const char* file;
+  const char* function;
+  int line;
+};
+
+enum class LogPrefix { DebugLevel, Module };
+
+enum class LogPriority { Info, Warning };
+
+// A fixed line whose only argument after the prefix is the name of the
+// function it is written from, as in "[FCAPI::%s] called\n".
+struct LogLine {
+  LogPriority priority;
+  LogPrefix prefix;
+  int level;
+  const char* format;  // the whole format, prefix included
+};
+
+void WriteLogLine(const LogLine& line, const LogSite& site);
+
+}  // namespace zunde
+
+#define FC_LOG_SITE (::zunde::LogSite{__FILE__, __func__, __LINE__})
+
+#define FC_LOG_PREFIX_LV "%s: %s(%d) > DBG_LV[%d]"
+#define FC_LOG_PREFIX_MOD "%s: %s(%d) > [%d][%d]"
+
+#define FC_LOG_RAW_LV(id, prio, level, fmt, ...)                                                  \
+  __dlog_print((id), (prio), ::zunde::kLogTag, FC_LOG_PREFIX_LV fmt, __FILE__, __func__, __LINE__, \
+               static_cast<int>(level), ##__VA_ARGS__)
+#define FC_LOG_RAW_MOD(id, prio, level, fmt, ...)                                                  \
+  __dlog_print((id), (prio), ::zunde::kLogTag, FC_LOG_PREFIX_MOD fmt, __FILE__, __func__, __LINE__, \
+               ::zunde::kLogModuleNumber, static_cast<int>(level), ##__VA_ARGS__)
+
+// "DBG_LV" form: information (main log) and warning (system log).
+#define FC_LOG_INFO(level, fmt, ...) FC_LOG_RAW_LV(LOG_ID_MAIN, DLOG_INFO, level, fmt, ##__VA_ARGS__)
+#define FC_LOG_WARN(level, fmt, ...) FC_LOG_RAW_LV(LOG_ID_SYSTEM, DLOG_WARN, level, fmt, ##__VA_ARGS__)
+
+// "[16][level]" form.
+#define FC_LOG_INFO_MOD(level, fmt, ...) FC_LOG_RAW_MOD(LOG_ID_MAIN, DLOG_INFO, level, fmt, ##__VA_ARGS__)
+#define FC_LOG_WARN_MOD(level, fmt, ...) FC_LOG_RAW_MOD(LOG_ID_SYSTEM, DLOG_WARN, level, fmt, ##__VA_ARGS__)
+
+#endif
