@@ -25,14 +25,23 @@ struct LogSite {
   const char* file;
   const char* function;
   int line;
+
+  // The caller's position, when used as a default argument: a shared
+  // mechanism then reports the lines it writes as its caller's own.
+  static constexpr LogSite Here(const char* file = __builtin_FILE(), const char* function = __builtin_FUNCTION(),
+                                int line = __builtin_LINE()) {
+    return LogSite{file, function, line};
+  }
 };
 
 enum class LogPrefix { DebugLevel, Module };
 
-enum class LogPriority { Info, Warning };
+// Debug and information lines go to the main log, warnings to the system log.
+enum class LogPriority { Debug, Info, Warning };
 
-// A fixed line whose only argument after the prefix is the name of the
-// function it is written from, as in "[FCAPI::%s] called\n".
+// A fixed line whose only argument after the prefix is a name, as in
+// "[FCAPI::%s] called\n": the function it is written from, or the subject
+// that the writer names instead (a D-Bus member, say).
 struct LogLine {
   LogPriority priority;
   LogPrefix prefix;
@@ -40,7 +49,12 @@ struct LogLine {
   const char* format;  // the whole format, prefix included
 };
 
-void WriteLogLine(const LogLine& line, const LogSite& site);
+void WriteLogLine(const LogLine& line, const LogSite& site, const char* subject = nullptr);
+
+// Lines in the two prefix forms, for `LogLine` tables:
+//   FC_LINE_LV("[FCAPI::%s] called\n") is the "DBG_LV" form's format.
+#define FC_LINE_LV(text) FC_LOG_PREFIX_LV text
+#define FC_LINE_MOD(text) FC_LOG_PREFIX_MOD text
 
 }  // namespace zunde
 

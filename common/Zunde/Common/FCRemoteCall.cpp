@@ -1,0 +1,137 @@
+#include "FCRemoteCall_internal.h"
+
+#include "FCIPCConnection.h"
+#include "FCIPCNames_internal.h"
+#include "FCMarshal.h"
+#include "FCMessageBuffer.h"
+
+namespace zunde {
+namespace {
+
+// The reply's bytes from the read cursor on (the whole reply, as nothing
+// has been popped).
+std::string ReplyText(FCMessageBuffer& reply) {
+  const char* bytes = reply.GetAsCStr(0);
+  if (bytes == nullptr) return std::string();
+  return std::string(bytes, reply.GetFullBufferSize() - reply.GetReadOffset());
+}
+
+}  // namespace
+
+bool TransmitText(const CallLogLines& lines, const LogSite& site, const char* subject, const char* member,
+                  const std::string& request, std::string& reply) {
+  FIIPCConnection* connection = FIIPCConnection::GetInstance();
+  FCMessageBuffer requestBuffer;
+  FCMessageBuffer replyBuffer;
+  requestBuffer.PushConcatenated(request.length(), const_cast<char*>(request.data()));
+  if (connection->Call(std::string(bus::kCallListener), member, requestBuffer, replyBuffer) == -1) {
+    WriteLogLine(lines.sendFailed, site, subject);
+    return false;
+  }
+  reply = ReplyText(replyBuffer);
+  return true;
+}
+
+RemoteCall::RemoteCall(const CallLogLines& lines, const char* member, LogSite site)
+    : lines_(lines), member_(member), site_(site) {}
+
+RemoteCall& RemoteCall::Entry() { return Entry(lines_.called); }
+
+RemoteCall& RemoteCall::Entry(const LogLine& line) {
+  if (!rejected_) WriteLogLine(line, site_);
+  return *this;
+}
+
+RemoteCall& RemoteCall::Require(bool check) {
+  rejected_ = rejected_ || !check;
+  return *this;
+}
+
+RemoteCall& RemoteCall::ConnectFirst() {
+  if (!rejected_) FIIPCConnection::GetInstance()->Connect();
+  return *this;
+}
+
+RemoteCall& RemoteCall::Through(JsonTransport transport) {
+  transport_ = std::move(transport);
+  return *this;
+}
+
+std::string RemoteCall::WriteRequest() const {
+  if (writers_.empty()) return std::string();
+  Json::Value root;
+  for (const auto& write : writers_) write(root);
+  return Json::StyledWriter().write(root);
+}
+
+bool RemoteCall::Transmit(const std::string& request, std::string& reply) {
+  return TransmitText(lines_, site_, nullptr, member_, request, reply);
+}
+
+bool RemoteCall::Parse(std::string& text, Json::Value& root) {
+  if (FCMarshal::ParseToJson(text, root)) return true;
+  WriteLogLine(lines_.parseFailed, site_);
+  return false;
+}
+
+bool RemoteCall::Finish(Json::Value& root) {
+  const bool result = root["ret"].asBool();
+  for (const auto& read : readers_) read(root);
+  return result;
+}
+
+bool RemoteCall::Run() {
+  if (rejected_) return false;
+  Json::Value reply;
+  if (transport_) {
+    Json::Value request;
+    for (const auto& write : writers_) write(request);
+    if (!transport_(member_, request, reply)) return false;
+    return Finish(reply);
+  }
+  std::string replyText;
+  if (!Transmit(WriteRequest(), replyText)) return false;
+  if (!Parse(replyText, reply)) return false;
+  return Finish(reply);
+}
+
+bool RemoteCall::Send() {
+  if (rejected_) return false;
+  std::string replyText;
+  return Transmit(WriteRequest(), replyText);
+}
+
+bool RemoteCall::PassThrough(const std::string& request, std::string& reply) {
+  if (rejected_) return false;
+  return Transmit(request, reply);
+}
+
+bool CallWithStringArguments(const CallLogLines& lines, const char* member, const std::string& request,
+                             std::string& reply, LogSite site) {
+  WriteLogLine(lines.called, site, member);
+  return TransmitText(lines, site, member, member, request, reply);
+}
+
+bool CallWithJsonArguments(const CallLogLines& lines, const char* member, const Json::Value& request,
+                           Json::Value& reply, const StringTransport& stringCall, LogSite site) {
+  const std::string requestText = Json::StyledWriter().write(request);
+  std::string replyText;
+  const bool answered = stringCall ? stringCall(member, requestText, replyText)
+                                   : CallWithStringArguments(lines, member, requestText, replyText, site);
+  if (!answered) return false;
+  if (FCMarshal::ParseToJson(replyText, reply)) return true;
+  WriteLogLine(lines.parseFailed, site, member);
+  return false;
+}
+
+bool ParseReturnValue(const LogLine& parseFailed, const std::string& text, LogSite site) {
+  Json::Value root;
+  Json::Reader reader;
+  if (!reader.parse(text, root, true)) {
+    WriteLogLine(parseFailed, site);
+    return false;
+  }
+  return root["ret"].asBool();
+}
+
+}  // namespace zunde
