@@ -11,10 +11,12 @@
 #include "FCMessageBuffer.h"
 
 // Remote content records
+#include "FCTime.h"
 
 // Set-top-box records
 
 // Virtual channel records
+#include "FCVirtualProgramData.h"
 
 // API entry and interfaces
 

@@ -17,6 +17,7 @@
 #include "FCRemoteContentTypes.h"
 
 // --- record headers (begin) ---
+#include "FCVirtualProgramData.h"
 // --- record headers (end) ---
 
 class FCMarshal {
@@ -36,6 +37,10 @@ class FCMarshal {
   // --- set-top-box channels and programs (FCMarshal_MBR.cpp) ---
 
   // --- virtual channels (FCMarshal_VirtualChannels.cpp) ---
+  // A service id as decimal text under "TCServiceId".
+  static bool VCServiceIdToJson(unsigned long long id, Json::Value& root);
+  // Reads "TCServiceId" back as a base-10 number; 0 when absent.
+  static bool VCJsonToServiceId(Json::Value& root, unsigned long long& id);
 };
 
 #endif
