@@ -7,23 +7,12 @@
 
 #include "FCDebug.h"
 #include "FCIPCNames_internal.h"
+#include "FCIPCWire_internal.h"
 #include "FCLog_internal.h"
 
 namespace {
 
 const int kMatchRuleSize = 256;
-
-// Appends the bytes of an ARRAY of BYTE argument at `args` to `out`; the
-// array's own element count is taken, whatever a length argument said.
-void AppendByteArray(DBusMessageIter* args, FCMessageBuffer& out) {
-  if (dbus_message_iter_get_arg_type(args) != DBUS_TYPE_ARRAY) return;
-  DBusMessageIter bytes;
-  dbus_message_iter_recurse(args, &bytes);
-  const unsigned char* data = nullptr;
-  int count = 0;
-  dbus_message_iter_get_fixed_array(&bytes, &data, &count);
-  out.PushConcatenated(static_cast<unsigned long>(count), const_cast<unsigned char*>(data));
-}
 
 }  // namespace
 
@@ -75,7 +64,6 @@ bool FCIPCConnection::Connect() { return false; }
 
 std::string& FCIPCConnection::GetConnectionId() { return m_connectionId; }
 
-
 void FCIPCConnection::SetGMainLoop(GMainContext* context) {
   FCASSERT(m_pConnection);
   dbus_connection_setup_with_g_main(m_pConnection, context);
@@ -110,20 +98,7 @@ int FCIPCConnection::Call(std::string const& destination, char const* method, FC
     return -1;
   }
 
-  // libdbus wants a valid pointer even for an empty array.
-  static const char kNoBytes = 0;
-  const char* payload = request.GetAsCStr(0) ? request.GetAsCStr(0) : &kNoBytes;
-  const dbus_int32_t length = static_cast<dbus_int32_t>(request.GetFullBufferSize() - request.GetReadOffset());
-  DBusMessageIter args;
-  DBusMessageIter bytes;
-  dbus_message_iter_init_append(message, &args);
-  const bool appended =
-      dbus_message_iter_append_basic(&args, DBUS_TYPE_STRING, &method) &&
-      dbus_message_iter_append_basic(&args, DBUS_TYPE_INT32, &length) &&
-      dbus_message_iter_open_container(&args, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE_AS_STRING, &bytes) &&
-      dbus_message_iter_append_fixed_array(&bytes, DBUS_TYPE_BYTE, &payload, length) &&
-      dbus_message_iter_close_container(&args, &bytes);
-  if (!appended) {
+  if (!zunde::bus::AppendTextAndPayload(message, method, request)) {
     FC_LOG_WARN(0, "IPCS: Out of memory\n\n");
     dbus_message_unref(message);
     return -1;
@@ -156,7 +131,7 @@ int FCIPCConnection::Call(std::string const& destination, char const* method, FC
   if (dbus_message_iter_get_arg_type(&results) == DBUS_TYPE_INT32) dbus_message_iter_get_basic(&results, &status);
   dbus_message_iter_next(&results);  // the length argument is not trusted
   dbus_message_iter_next(&results);
-  AppendByteArray(&results, reply);
+  zunde::bus::ReadPayload(&results, reply);
   dbus_message_unref(answer);
   return status;
 }
@@ -238,7 +213,7 @@ DBusHandlerResult FCIPCConnection::m_MessageHandler(DBusMessage* message) {
   dbus_message_iter_next(&args);  // the length argument
   dbus_message_iter_next(&args);
   FCMessageBuffer payload;
-  AppendByteArray(&args, payload);
+  zunde::bus::ReadPayload(&args, payload);
 
   void (*callback)(int, FCMessageBuffer&) = type == FC_IPC_EVENT ? m_eventCallback : m_dataCallback;
   if (callback != nullptr) callback(event, payload);

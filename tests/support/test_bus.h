@@ -1,0 +1,21 @@
+// A private dbus-daemon that plays the system bus for one test process.
+#ifndef ZUNDE_TESTS_TEST_BUS_H
+#define ZUNDE_TESTS_TEST_BUS_H
+
+#include <string>
+
+namespace zunde::testing {
+
+class TestBus {
+ public:
+  // Starts the daemon from the repository's configuration and points
+  // DBUS_SYSTEM_BUS_ADDRESS at it. Aborts the test run if it cannot.
+  static void Start();
+  // Ends the daemon; the library's connection sees its bus go away.
+  static void Stop();
+  static const std::string& Address();
+};
+
+}  // namespace zunde::testing
+
+#endif
