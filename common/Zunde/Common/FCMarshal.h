@@ -27,6 +27,28 @@ class FCMarshal {
   static bool ParseToJson(std::string& text, Json::Value& root);
 
   // --- remote content environment (FCMarshal_RemoteContentEnv.cpp) ---
+  // "country", "language" (strings)
+  static bool CountryAndLangToJson(std::string const& country, std::string const& language, Json::Value& root);
+  static bool JsonToCountryAndLang(Json::Value& root, std::string& country, std::string& language);
+  // "atoken" (string)
+  static bool atokenToJson(std::string const& token, Json::Value& root);
+  static bool JsonToatoken(Json::Value& root, std::string& token);
+  // "in_source", "in_tvmode" (ints)
+  static bool TVSourceAndTVModeToJson(int& source, int& tvMode, Json::Value& root);
+  static bool JsonToTVSourceAndTVMode(Json::Value& root, ESource& source, int& tvMode);
+  // "in_source", "in_antennaMode", "in_serviceMode" (ints)
+  static bool TVSourceAndTVModeToJson(int& source, int& antennaMode, int& serviceMode, Json::Value& root);
+  static bool JsonToTVSourceAndTVMode(Json::Value& root, ESource& source, int& antennaMode, int& serviceMode);
+  // "activityID" (int)
+  static bool activityIDToJson(eRemoteContentActivity activity, Json::Value& root);
+  static bool JsonToactivityID(Json::Value& root, eRemoteContentActivity& activity);
+  // "in_recommend_type" (int)
+  static bool RecommendTypeOptionToJson(eRecommendTypeOption option, Json::Value& root);
+  static bool JsonToRecommendTypeOption(Json::Value& root, eRecommendTypeOption& option);
+  // "in_user_id" (string)
+  static bool UserIDToJson(std::string const& userId, Json::Value& root);
+  static bool JsonToUserID(Json::Value& root, std::string& userId);
+
 
   // --- remote content catalogue records (FCMarshal_RemoteContent.cpp) ---
 
