@@ -1,13 +1,12 @@
 #include "test_service.h"
 
 #include <dbus/dbus.h>
-#include <signal.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
 
+#include "child_process.h"
 #include "control_protocol.h"
 
 namespace zunde::testing {
@@ -80,40 +79,20 @@ void Script(const std::string& member, const char* action, int32_t status, int32
   if (DBusMessage* reply = Control(message)) dbus_message_unref(reply);
 }
 
-std::string ReadLine(int fd) {
-  std::string line;
-  char c;
-  while (read(fd, &c, 1) == 1 && c != '\n') line += c;
-  return line;
-}
-
 }  // namespace
 
 void TestService::Start() {
-  int pipeFds[2];
-  ASSERT_EQ(pipe(pipeFds), 0);
-  servicePid = fork();
-  ASSERT_GE(servicePid, 0);
-  if (servicePid == 0) {
-    dup2(pipeFds[1], STDOUT_FILENO);
-    close(pipeFds[0]);
-    close(pipeFds[1]);
+  const StartedChild service = StartChild([](int writeFd) {
+    dup2(writeFd, STDOUT_FILENO);
+    close(writeFd);
     execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", static_cast<char*>(nullptr));
     std::perror("zunde-test-service");
-    _exit(127);
-  }
-  close(pipeFds[1]);
-  const std::string line = ReadLine(pipeFds[0]);
-  close(pipeFds[0]);
-  ASSERT_EQ(line, test_service::kReadyLine) << "the test service did not start";
+  });
+  servicePid = service.pid;
+  ASSERT_EQ(service.firstLine, test_service::kReadyLine) << "the test service did not start";
 }
 
-void TestService::Stop() {
-  if (servicePid <= 0) return;
-  kill(servicePid, SIGTERM);
-  waitpid(servicePid, nullptr, 0);
-  servicePid = -1;
-}
+void TestService::Stop() { StopChild(servicePid); }
 
 void TestService::Reply(const std::string& member, const std::string& payload, int32_t status, int32_t length,
                         uint32_t delayMs) {

@@ -42,19 +42,8 @@ FCIPCConnection::~FCIPCConnection() {
 
 bool FCIPCConnection::m_Connect() {
   FC_LOG_INFO(3, "[API] FCIPCConnection::m_Connect Called \n\n");
-  DBusError error;
-  dbus_error_init(&error);
-  m_pConnection = dbus_bus_get_private(DBUS_BUS_SYSTEM, &error);
-  if (m_pConnection == nullptr) {
-    FC_LOG_WARN(0, "Failed to connect to the D-BUS daemon: %s\n", error.message ? error.message : "");
-    dbus_error_free(&error);
-    return false;
-  }
-  // The process must outlive its bus: a lost bus fails the calls, it does
-  // not end the application.
-  dbus_connection_set_exit_on_disconnect(m_pConnection, FALSE);
-  const char* uniqueName = dbus_bus_get_unique_name(m_pConnection);
-  m_connectionId = uniqueName ? uniqueName : "";
+  m_pConnection = zunde::bus::ConnectPrivateSystemBus(m_connectionId);
+  if (m_pConnection == nullptr) return false;
   m_isConnected = true;
   dbus_connection_add_filter(m_pConnection, m_MessageHandlerHelper, this, nullptr);
   return true;

@@ -27,18 +27,8 @@ FCIPCManager::~FCIPCManager() {
 }
 
 bool FCIPCManager::m_Connect() {
-  DBusError error;
-  dbus_error_init(&error);
-  m_pConnection = dbus_bus_get_private(DBUS_BUS_SYSTEM, &error);
-  if (m_pConnection == nullptr) {
-    FC_LOG_WARN(0, "Failed to connect to the D-BUS daemon: %s\n", error.message ? error.message : "");
-    dbus_error_free(&error);
-    return false;
-  }
-  dbus_connection_set_exit_on_disconnect(m_pConnection, FALSE);
-  const char* uniqueName = dbus_bus_get_unique_name(m_pConnection);
-  m_connectionId = uniqueName ? uniqueName : "";
-  return true;
+  m_pConnection = zunde::bus::ConnectPrivateSystemBus(m_connectionId);
+  return m_pConnection != nullptr;
 }
 
 bool FCIPCManager::Send(int id, FCMessageBuffer& data) {

@@ -2,6 +2,23 @@
 
 namespace zunde::bus {
 
+DBusConnection* ConnectPrivateSystemBus(std::string& uniqueName, LogSite site) {
+  DBusError error;
+  dbus_error_init(&error);
+  DBusConnection* connection = dbus_bus_get_private(DBUS_BUS_SYSTEM, &error);
+  if (connection == nullptr) {
+    __dlog_print(LOG_ID_SYSTEM, DLOG_WARN, kLogTag, FC_LOG_PREFIX_LV "Failed to connect to the D-BUS daemon: %s\n",
+                 site.file, site.function, site.line, 0, error.message ? error.message : "");
+    dbus_error_free(&error);
+    return nullptr;
+  }
+  // A lost bus fails the calls; it must not end the application.
+  dbus_connection_set_exit_on_disconnect(connection, FALSE);
+  const char* name = dbus_bus_get_unique_name(connection);
+  uniqueName = name ? name : "";
+  return connection;
+}
+
 bool AppendTextAndPayload(DBusMessage* message, const char* text, FCMessageBuffer& payload) {
   // libdbus wants a valid pointer even for an empty array.
   static const char kNoBytes = 0;

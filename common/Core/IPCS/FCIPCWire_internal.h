@@ -5,9 +5,17 @@
 
 #include <dbus/dbus.h>
 
+#include <string>
+
+#include "FCLog_internal.h"
 #include "FCMessageBuffer.h"
 
 namespace zunde::bus {
+
+// Opens a private connection to the system bus that does not end the process
+// when the bus goes away, and stores its unique name. On failure logs
+// "Failed to connect to the D-BUS daemon" at `site` and returns null.
+DBusConnection* ConnectPrivateSystemBus(std::string& uniqueName, LogSite site = LogSite::Here());
 
 // Appends `text`, the payload's length and the payload: the buffer's bytes
 // from the start, as many as lie past its read cursor. False when libdbus
