@@ -180,9 +180,14 @@ TEST_F(Events, LastUnsubscribeDropsTheSubscriptionObject) {
   EXPECT_EQ(FCEMSProxy::GetInstance(nullptr, nullptr), fresh) << "later arguments are ignored";
 }
 
-TEST_F(Events, UnsubscribingWithNothingSubscribedDestroysTheCallback) {
-  EXPECT_EQ(ems_->UnsubscribeSignal(42), 0);
+TEST_F(Events, UnsubscribingWithNothingSubscribedDestroysTheCallbackAndFailsOnTheBus) {
+  EXPECT_EQ(ems_->UnsubscribeSignal(42), -1) << "the bus has no such rule to remove";
   EXPECT_TRUE(LogCapture::Find("[FCEMSProxy::UnsubscribeSignal] Destroy Call back Function\n"));
+  bool sharedWording = false;
+  for (const auto& line : LogCapture::Lines()) {
+    sharedWording = sharedWording || line.find("DBG_LV[0]Error while adding match rule: ") != std::string::npos;
+  }
+  EXPECT_TRUE(sharedWording) << "removal reports with the adding line";
 }
 
 TEST_F(Events, SubscribingLogsTheEvent) {

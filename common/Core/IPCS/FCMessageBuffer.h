@@ -60,6 +60,9 @@ class FCMessageBuffer {
   bool Clean();
 
  private:
+  // The bytes between the read cursor and the end.
+  unsigned long BytesLeft() const;
+
   std::vector<char> m_bufferData;
   int m_readOffset;
   int m_reserved;
