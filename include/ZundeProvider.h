@@ -8,6 +8,9 @@
 #include "FCDebug.h"
 
 // IPC transport
+#include "FCEMSProxy.h"
+#include "FCIPCConnection.h"
+#include "FCIPCManager.h"
 #include "FCMessageBuffer.h"
 
 // Remote content records
@@ -19,5 +22,15 @@
 #include "FCVirtualProgramData.h"
 
 // API entry and interfaces
+#include "BrisvelDefine.h"
+#include "FCMarshal.h"
+#include "FCObjectFactoryKR.h"
+#include "FCRFNetworkChannelAPI.h"
+#include "FCRemoteContentAPI.h"
+#include "FCRemoteContentOnTV_Proxy.h"
+#include "FCRemoteContentTypes.h"
+#include "FCRemoteContent_MSOAPI.h"
+#include "FCVirtualChannelsAPI.h"
+#include "FIMatchFinder.h"
 
 #endif

@@ -74,6 +74,8 @@ class TestService {
  public:
   explicit TestService(DBusConnection* connection) : connection_(connection) {}
 
+  ServiceScript& Script() { return script_; }
+
   DBusHandlerResult Handle(DBusMessage* message) {
     if (dbus_message_is_method_call(message, zunde::bus::kCallListener, zunde::bus::kCallMember)) {
       AnswerCall(message);
@@ -224,7 +226,24 @@ DBusHandlerResult Filter(DBusConnection*, DBusMessage* message, void* service) {
 
 }  // namespace
 
-int main() {
+// Options: --reply-all PAYLOAD answers every member with status 0 and PAYLOAD
+// until a test scripts otherwise (for benchmarks, which script nothing).
+bool ApplyOptions(int argc, char** argv, ServiceScript& script) {
+  for (int i = 1; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--reply-all") == 0 && i + 1 < argc) {
+      Answer answer;
+      const std::string payload = argv[++i];
+      answer.payload.assign(payload.begin(), payload.end());
+      script.Set("*", answer);
+    } else {
+      std::fprintf(stderr, "usage: zunde-test-service [--reply-all PAYLOAD]\n");
+      return false;
+    }
+  }
+  return true;
+}
+
+int main(int argc, char** argv) {
   DBusError error;
   dbus_error_init(&error);
   DBusConnection* connection = dbus_bus_get_private(DBUS_BUS_SYSTEM, &error);
@@ -240,6 +259,7 @@ int main() {
   }
 
   TestService service(connection);
+  if (!ApplyOptions(argc, argv, service.Script())) return 2;
   dbus_connection_add_filter(connection, Filter, &service, nullptr);
   std::printf("%s\n", kReadyLine);
   std::fflush(stdout);

@@ -1,0 +1,21 @@
+#include "FCObjectFactoryKR.h"
+
+#include "FCRemoteContentOnTV_Proxy.h"
+
+// Defined beside the concrete factory, so that the entry knows no proxy.
+FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
+  if (m_pInstance == nullptr) m_pInstance = new FCObjectFactoryKR;
+  return m_pInstance;
+}
+
+FCRFNetworkChannelAPI* FCObjectFactoryKR::GetRFNetworkChannelManager() { return nullptr; }
+
+FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { return nullptr; }
+
+FCRemoteContentAPI* FCObjectFactoryKR::GetRemoteContentAPI() { return new FCRemoteContentOnTV_Proxy; }
+
+FCRemoteContent_MSOAPI* FCObjectFactoryKR::GetRemoteContentMSOAPI() { return nullptr; }
+
+FIMatchFinder* FCObjectFactoryKR::GetMatchFinder() { return nullptr; }
+
+FCVirtualChannelsAPI* FCObjectFactoryKR::GetVirtualChannelsAPI() { return nullptr; }
