@@ -24,6 +24,7 @@ install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/ZundeProviderConfigVersion.cmake
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ZundeProvider)
 
+file(RELATIVE_PATH ZUNDE_PC_RELATIVE_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
 configure_file(cmake/zunde-provider.pc.in ${CMAKE_CURRENT_BINARY_DIR}/zunde-provider.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zunde-provider.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

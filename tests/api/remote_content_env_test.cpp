@@ -26,6 +26,9 @@ struct TypedCase {
   std::function<bool(FCRemoteContentOnTV_Proxy&, std::string& outputs)> call;
 };
 
+// Names the cases in test listings.
+void PrintTo(const TypedCase& c, std::ostream* os) { *os << c.method; }
+
 // Outputs start as "-": a failed call must leave them so.
 bool CallGetEnv(FCRemoteContentOnTV_Proxy& proxy, std::string& outputs) {
   std::string country = "-";
@@ -149,6 +152,8 @@ struct PassThroughCase {
   std::function<bool(FCRemoteContentOnTV_Proxy&, std::string const&, std::string&)> call;
   bool sendsRequest;  // false: the method sends an empty request
 };
+
+void PrintTo(const PassThroughCase& c, std::ostream* os) { *os << c.method; }
 
 const PassThroughCase kPassThroughCases[] = {
     {"SetRemoteContentEnvForEmp", "SetRemoteContentEnv",

@@ -86,6 +86,9 @@ struct TransportFailure {
   const char* logLine;
 };
 
+// Names the case in test listings.
+void PrintTo(const TransportFailure& c, std::ostream* os) { *os << c.name; }
+
 class ConnectionCallFailure : public ConnectionCall, public ::testing::WithParamInterface<TransportFailure> {};
 
 TEST_P(ConnectionCallFailure, ReturnsMinusOneWithItsLogLine) {

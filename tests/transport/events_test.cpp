@@ -81,6 +81,9 @@ struct PayloadCase {
   Received expected;
 };
 
+// Names the case in test listings.
+void PrintTo(const PayloadCase& c, std::ostream* os) { *os << c.name; }
+
 class EventPayload : public Events, public ::testing::WithParamInterface<PayloadCase> {};
 
 TEST_P(EventPayload, ReachesTheCallbackAsThreeParameters) {

@@ -104,6 +104,9 @@ struct ReplyCase {
   std::string out;  // what the reader leaves in the output
 };
 
+// Names the case in test listings.
+void PrintTo(const ReplyCase& c, std::ostream* os) { *os << c.name; }
+
 class TypedCallReply : public RemoteCallTest, public ::testing::WithParamInterface<ReplyCase> {};
 
 TEST_P(TypedCallReply, ResultIsRetAndOutputsFillWheneverTheReplyParses) {
