@@ -16,8 +16,8 @@ namespace {
 // the library hands out they are never freed; keeping them listed keeps them
 // reachable, so leak checkers see them as the deliberate state they are.
 std::vector<FCEMSProxy*>& Abandoned() {
-  static std::vector<FCEMSProxy*> abandoned;
-  return abandoned;
+  static std::vector<FCEMSProxy*>* abandoned = new std::vector<FCEMSProxy*>;
+  return *abandoned;
 }
 
 }  // namespace
