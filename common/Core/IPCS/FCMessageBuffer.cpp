@@ -2,8 +2,47 @@
 
 #include <cstdio>
 #include <cstring>
+#include <functional>
 
 #include "FCDebug.h"
+
+namespace {
+
+typedef std::vector<char> Bytes;
+
+// True when `source` points into the content of `bytes`. std::less gives a
+// total order even for pointers into unrelated objects.
+bool LiesInside(const Bytes& bytes, const void* source) {
+  const char* byte = static_cast<const char*>(source);
+  const std::less<const char*> before;
+  return !bytes.empty() && !before(byte, bytes.data()) && before(byte, bytes.data() + bytes.size());
+}
+
+// Inserts `size` bytes at `offset`: those `source` points to, or zeros when
+// it is null. Bytes taken from the buffer itself are copied aside first,
+// because growing may move the storage they live in.
+void InsertBytes(Bytes& bytes, unsigned long offset, const void* source, unsigned long size) {
+  const Bytes::iterator at = bytes.begin() + offset;
+  if (source == nullptr) {
+    bytes.insert(at, size, 0);
+    return;
+  }
+  const char* first = static_cast<const char*>(source);
+  if (LiesInside(bytes, source)) {
+    const Bytes aside(first, first + size);
+    bytes.insert(at, aside.begin(), aside.end());
+    return;
+  }
+  bytes.insert(at, first, first + size);
+}
+
+// memcpy with a zero length still wants valid pointers; an empty vector may
+// have none.
+void CopyBytes(void* out, const void* in, unsigned long size) {
+  if (size > 0) std::memcpy(out, in, size);
+}
+
+}  // namespace
 
 FCMessageBuffer::FCMessageBuffer() : m_readOffset(0), m_reserved(0) {}
 
@@ -14,13 +53,15 @@ bool FCMessageBuffer::PushChar(char value) {
   return true;
 }
 
-bool FCMessageBuffer::PushInt(int value) { return PushConcatenated(sizeof value, &value); }
+bool FCMessageBuffer::PushInt(int value) {
+  InsertBytes(m_bufferData, m_bufferData.size(), &value, sizeof value);
+  return true;
+}
 
 bool FCMessageBuffer::PushConcatenated(unsigned long size, void* data) {
   if (size == 0) return true;
-  const size_t oldSize = m_bufferData.size();
-  m_bufferData.insert(m_bufferData.end(), size, 0);
-  if (data != nullptr) std::memcpy(&m_bufferData[oldSize], data, size);
+  // Insertion at the end lets the vector grow its capacity geometrically.
+  InsertBytes(m_bufferData, m_bufferData.size(), data, size);
   return true;
 }
 
@@ -28,14 +69,18 @@ bool FCMessageBuffer::PushBuffer(FCMessageBuffer* other) {
   return PushConcatenated(other->GetFullBufferSize(), const_cast<char*>(other->GetAsCStr(0)));
 }
 
-bool FCMessageBuffer::WriteInt(int value, int offset) { return WriteConcatenated(sizeof value, &value, offset); }
+// The offset checks compare unsigned, so a negative offset (-1 meaning "the
+// end" to some callers) is refused rather than taken as the end.
+bool FCMessageBuffer::WriteInt(int value, int offset) {
+  FCASSERT((unsigned int)offset <= m_bufferData.size());
+  InsertBytes(m_bufferData, static_cast<unsigned int>(offset), &value, sizeof value);
+  return true;
+}
 
 bool FCMessageBuffer::WriteConcatenated(unsigned long size, void* data, int offset) {
   if (size == 0) return true;
   FCASSERT((unsigned int)offset <= m_bufferData.size());
-  // Insertion moves the tail up; the inserted bytes are those `data` points to.
-  const char* bytes = static_cast<const char*>(data);
-  m_bufferData.insert(m_bufferData.begin() + offset, bytes, bytes + size);
+  InsertBytes(m_bufferData, static_cast<unsigned int>(offset), data, size);
   return true;
 }
 
@@ -53,7 +98,7 @@ int FCMessageBuffer::PopInt() {
     std::printf("Data buffer is smaller than 4 bytes");
     return 0;
   }
-  std::memcpy(&value, &m_bufferData[static_cast<unsigned int>(m_readOffset)], sizeof value);
+  CopyBytes(&value, &m_bufferData[static_cast<unsigned int>(m_readOffset)], sizeof value);
   m_readOffset += static_cast<int>(sizeof value);
   return value;
 }
@@ -64,26 +109,28 @@ void* FCMessageBuffer::PopConcatenated(unsigned long size) {
     return nullptr;
   }
   char* out = new char[size];
-  if (size > 0) std::memcpy(out, &m_bufferData[static_cast<unsigned int>(m_readOffset)], size);
+  CopyBytes(out, m_bufferData.data() + static_cast<unsigned int>(m_readOffset), size);
   m_readOffset += static_cast<int>(size);
   return out;
 }
 
 bool FCMessageBuffer::ReadInt(int* out, int offset) {
   FCASSERT(m_bufferData.size() >= (unsigned int)(offset + 4));
-  std::memcpy(out, &m_bufferData[static_cast<unsigned int>(offset)], sizeof *out);
+  CopyBytes(out, &m_bufferData[static_cast<unsigned int>(offset)], sizeof *out);
   return true;
 }
 
+// The check uses `offset` while the bytes come from the read cursor; the two
+// agree only when the caller passes the cursor as the offset. With the cursor
+// past `offset` the copy can run beyond the content.
 bool FCMessageBuffer::ReadConcatenated(unsigned long sizeOfData, void* out, int offset) {
   FCASSERT(m_bufferData.size() >= offset + sizeOfData);
-  // Checked against `offset`, copied from the read cursor: both kept as published.
-  if (sizeOfData > 0) std::memcpy(out, m_bufferData.data() + static_cast<unsigned int>(m_readOffset), sizeOfData);
+  CopyBytes(out, m_bufferData.data() + static_cast<unsigned int>(m_readOffset), sizeOfData);
   return true;
 }
 
 bool FCMessageBuffer::CopyData(void* out, int size, int offset) {
-  std::memcpy(out, m_bufferData.data() + offset, static_cast<size_t>(size));
+  CopyBytes(out, m_bufferData.data() + offset, static_cast<unsigned int>(size));
   return true;
 }
 

@@ -25,8 +25,12 @@ class FCMessageBuffer {
   // Appends all of `other`'s bytes, whatever its read cursor.
   bool PushBuffer(FCMessageBuffer* other);
 
-  // Inserting at `offset` (at most the content size; asserted). Return true.
+  // Inserting at `offset`, shifting the bytes from there up. The offset may be
+  // at most the content size (an offset equal to it appends); anything else,
+  // a negative offset included, ends the process. Return true.
   bool WriteInt(int value, int offset);
+  // Inserts `size` bytes from `data`, or zeros when `data` is null. A size of
+  // 0 does nothing and checks nothing.
   bool WriteConcatenated(unsigned long size, void* data, int offset);
 
   // Taking from the read cursor. When too few bytes are left these print a
@@ -36,8 +40,9 @@ class FCMessageBuffer {
   // A new array the caller frees with delete[].
   void* PopConcatenated(unsigned long size);
 
-  // Reading without moving the cursor. ReadInt reads at `offset`;
-  // ReadConcatenated checks `offset` but copies from the read cursor.
+  // Reading without moving the cursor; an `offset` whose bytes would run past
+  // the end ends the process. ReadInt reads at `offset`; ReadConcatenated
+  // checks `offset` but copies from the read cursor.
   bool ReadInt(int* out, int offset);
   bool ReadConcatenated(unsigned long size, void* out, int offset);
   // Copies `size` bytes at `offset`, unchecked.
