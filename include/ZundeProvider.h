@@ -17,6 +17,8 @@
 #include "FCTime.h"
 
 // Set-top-box records
+#include "MBRNetworkChannel.h"
+#include "MBRNetworkChannelTable.h"
 
 // Virtual channel records
 #include "FCVirtualProgramData.h"

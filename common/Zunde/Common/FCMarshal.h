@@ -18,6 +18,8 @@
 
 // --- record headers (begin) ---
 #include "FCVirtualProgramData.h"
+#include "MBRNetworkChannel.h"
+#include "MBRNetworkChannelTable.h"
 // --- record headers (end) ---
 
 class FCMarshal {
@@ -57,6 +59,21 @@ class FCMarshal {
   // --- certification rule and VOD providers (FCMarshal_CatalogueResponses.cpp) ---
 
   // --- set-top-box channels and programs (FCMarshal_MBR.cpp) ---
+  // The channel's thirteen keys and the programme's five, flat in `root`.
+  static bool MBRNetworkChannelToJson(FCMBRNetworkChannel& channel, Json::Value& root);
+  static bool JsonToMBRNetworkChannel(Json::Value& root, FCMBRNetworkChannel& channel);
+  static bool MBRProgramToJson(FCMBRNetworkProgram& program, Json::Value& root);
+  static bool JsonToMBRProgram(Json::Value& root, FCMBRNetworkProgram& program);
+  // "MBR channel table": an array of channels in list order, left out when
+  // the table is empty. Reading appends to `table`.
+  static bool MBRNetworkChannelTableToJson(FCMBRNetworkChannelTable& table, Json::Value& root);
+  static bool JsonToMBRNetworkChannelTable(Json::Value& root, FCMBRNetworkChannelTable& table);
+  // "mbrProgramTable": an array of programmes in ascending start time, each
+  // with its start time also under "first"; left out when the table is
+  // empty. Reading stores each programme under its "first", replacing one
+  // already there.
+  static bool MBRProgramTableToJson(FCMBRNetworkProgramTable& table, Json::Value& root);
+  static bool JsonToMBRProgramTable(Json::Value& root, FCMBRNetworkProgramTable& table);
 
   // --- virtual channels (FCMarshal_VirtualChannels.cpp) ---
   // A service id as decimal text under "TCServiceId".
