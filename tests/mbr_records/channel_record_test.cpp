@@ -114,15 +114,6 @@ INSTANTIATE_TEST_SUITE_P(
         EqualityCase{"digital", [](FCMBRNetworkChannel& c) { c.SetDigitalFlag(false); }, false}),
     [](const ::testing::TestParamInfo<EqualityCase>& info) { return Text(info.param.changed); });
 
-TEST(MBRNetworkChannel, OrdersByMajorMinorThenChannelId) {
-  EXPECT_TRUE(Channel(3, 9, 9) < Channel(5, 1, 1));
-  EXPECT_TRUE(Channel(5, 1, 9) < Channel(5, 2, 1));
-  EXPECT_TRUE(Channel(5, 1, 1) < Channel(5, 1, 2));
-  EXPECT_TRUE(Channel(-1, 0, 0) < Channel(0, 0, 0));
-  EXPECT_FALSE(Channel(5, 1, 1, "a") < Channel(5, 1, 1, "b"));
-  EXPECT_FALSE(Channel(5, 1, 1, "b") < Channel(5, 1, 1, "a"));
-}
-
 struct EndianCase {
   const char* name;
   std::vector<unsigned char> src;
@@ -191,12 +182,6 @@ TEST(MBRNetworkProgram, IdentityIsTheProgramIdAlone) {
   EXPECT_TRUE(Program("ab", 900) < Program("abc", 100));
   EXPECT_TRUE(Program("Z", 0) < Program("a", 0));
   EXPECT_FALSE(Program("p1", 100) < Program("p1", 900));
-}
-
-TEST(MBRNetworkProgram, StartTimeKeepsThirtyTwoBits) {
-  FCMBRNetworkProgram program;
-  program.SetStartTime(static_cast<unsigned long>(0x100000064ULL));
-  EXPECT_EQ(program.GetStartTime(), 100UL);
 }
 
 }  // namespace

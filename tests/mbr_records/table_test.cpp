@@ -36,10 +36,10 @@ std::vector<std::tuple<int, int, int, std::string>> Keys(const FCMBRNetworkChann
 
 TEST(MBRNetworkChannelTable, SortOrdersByKeysAndKeepsTiesInListOrder) {
   FCMBRNetworkChannelTable table = Table({Channel(5, 2, 9), Channel(5, 1, 3, "first"), Channel(3, 8, 1),
-                                          Channel(5, 1, 3, "second"), Channel(5, 1, 3, "third")});
+                                          Channel(5, 1, 3, "second"), Channel(5, 1, 3, "third"), Channel(-1, 9, 9)});
   table.Sort();
   using K = std::tuple<int, int, int, std::string>;
-  EXPECT_EQ(Keys(table), (std::vector<K>{K{3, 8, 1, ""}, K{5, 1, 3, "first"}, K{5, 1, 3, "second"},
+  EXPECT_EQ(Keys(table), (std::vector<K>{K{-1, 9, 9, ""}, K{3, 8, 1, ""}, K{5, 1, 3, "first"}, K{5, 1, 3, "second"},
                                          K{5, 1, 3, "third"}, K{5, 2, 9, ""}}));
 }
 
