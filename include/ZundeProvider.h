@@ -25,6 +25,7 @@
 
 // API entry and interfaces
 #include "BrisvelDefine.h"
+#include "FCMBRNetworkChannelAPI.h"
 #include "FCMarshal.h"
 #include "FCObjectFactoryKR.h"
 #include "FCRFNetworkChannelAPI.h"

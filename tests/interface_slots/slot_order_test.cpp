@@ -57,6 +57,30 @@ TEST(SlotOrder, FCRFNetworkChannelAPI) {
           ZUNDE_SLOT(C, CheckMetaProgramExist)});
 }
 
+TEST(SlotOrder, FCMBRNetworkChannelAPI) {
+  using C = FCMBRNetworkChannelAPI;
+  ExpectConsecutiveSlotsFrom(
+      2, {ZUNDE_SLOT(C, Reset), ZUNDE_SLOT(C, AllocateActivityIDBySourceID), ZUNDE_SLOT(C, DeleteActivityID),
+          ZUNDE_SLOT(C, SetActivityIDSourceID), ZUNDE_SLOT(C, GetActivityIDBySourceID), ZUNDE_SLOT(C, SetZipCode),
+          ZUNDE_SLOT(C, GetZipCode), ZUNDE_SLOT(C, SetAdditionalInfo), ZUNDE_SLOT(C, GetAdditionalInfo),
+          ZUNDE_SLOT(C, SetDeviceType), ZUNDE_SLOT(C, GetDeviceType), ZUNDE_SLOT(C, SetHeadEndID),
+          ZUNDE_SLOT(C, GetHeadEndID), ZUNDE_SLOT(C, SetLocation), ZUNDE_SLOT(C, GetLocation),
+          ZUNDE_SLOT(C, ConstructMBRNetworkChannelMap), ZUNDE_SLOT(C, ConstructMBRNetworkProgramMap),
+          ZUNDE_SLOT(C, GetCurrentMBRNetworkProgram), ZUNDE_SLOT(C, GetCurrentMBRNetworkProgrambyCurrentTime),
+          ZUNDE_SLOT(C, SetMBRNetworkChannelMap), ZUNDE_SLOT(C, GetMBRNetworkChannelMap),
+          ZUNDE_SLOT(C, GetMBRNetworkChannelUp), ZUNDE_SLOT(C, GetMBRNetworkChannelDown),
+          ZUNDE_SLOT(C, GetMBRNetworkChannelByMajorMinor), ZUNDE_SLOT(C, SaveMBRNetworkChannelMap),
+          ZUNDE_SLOT(C, AddNewMBRNetworkChannel), ZUNDE_SLOT(C, SetRememberMBRNetworkChannel),
+          ZUNDE_SLOT(C, ExistMBRNetworkChannelByMajorMinor), ZUNDE_SLOT(C, AddFavoriteMBRNetworkChannel),
+          ZUNDE_SLOT(C, DeleteFavoriteMBRNetworkChannel), ZUNDE_SLOT(C, SetMBRNetworkProgramMap),
+          ZUNDE_SLOT(C, GetMBRNetworkProgrmaMap), ZUNDE_SLOT(C, RemoveMBRNetworkChannel),
+          ZUNDE_SLOT(C, GetMaxNumberOfMajorMinor), ZUNDE_SLOT(C, ExistChannelInActivityID),
+          ZUNDE_SLOT(C, ClearMBRProgramMap), ZUNDE_SLOT(C, GetFeaturedMBRChannels),
+          ZUNDE_SLOT(C, SetEditedMBRNetworkChannel), ZUNDE_SLOT(C, NotifyMBRChannelEditCompleted),
+          ZUNDE_SLOT(C, GetMBRNetworkChannelByChannelIDOriginMajor), ZUNDE_SLOT(C, SetCurrentMBRNetworkChannel),
+          ZUNDE_SLOT(C, GetCurrentMBRNetworkChannel), ZUNDE_SLOT(C, RegisterMBRNetworkChannelHistory)});
+}
+
 TEST(SlotOrder, FCVirtualChannelsAPI) {
   using C = FCVirtualChannelsAPI;
   using Id = FCVirtualProgramId const&;
