@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <sys/time.h>
 #include <sys/times.h>
 #include <unistd.h>
 
@@ -14,15 +15,22 @@ namespace {
 using zunde::testing::LogCapture;
 using zunde::testing::LogRecord;
 
+unsigned long WallClockSeconds() {
+  timeval now = {0, 0};
+  gettimeofday(&now, nullptr);
+  return static_cast<unsigned long>(now.tv_sec);
+}
+
 // The library's lines reach a __dlog_print that the application defines:
 // this executable links its own, and the clock's line arrives there.
 TEST(Clock, EpochTimeLogsTheSecondsItReturnsToTheApplicationsLog) {
   LogCapture::Clear();
-  const std::time_t before = std::time(nullptr);
+  // time() may read a coarser clock than the wall clock; compare with that.
+  const unsigned long before = WallClockSeconds();
   const unsigned long now = FCTimeWrapper::EpochTime();
-  const std::time_t after = std::time(nullptr);
-  EXPECT_GE(now, static_cast<unsigned long>(before));
-  EXPECT_LE(now, static_cast<unsigned long>(after));
+  const unsigned long after = WallClockSeconds();
+  EXPECT_GE(now, before);
+  EXPECT_LE(now, after);
 
   LogRecord record;
   ASSERT_TRUE(LogCapture::Find("CurrentTime return " + std::to_string(now) + "\n", &record));
