@@ -131,7 +131,9 @@ TEST_P(EnvironmentTyped, TransportFailureLeavesOutputsAndLogs) {
   TestService::ReplyWithError(GetParam().member);
   std::string outputs;
   EXPECT_FALSE(GetParam().call(proxy_, outputs));
-  if (GetParam().outputs != "none") EXPECT_EQ(outputs.find_first_not_of("-|9"), std::string::npos) << outputs;
+  if (GetParam().outputs != "none") {
+    EXPECT_EQ(outputs.find_first_not_of("-|9"), std::string::npos) << outputs;
+  }
   EXPECT_TRUE(LogCapture::Find(Line("FCRemoteContentOnTV_Proxy", "fail to communicate using d-bus\n")));
 }
 
@@ -139,7 +141,9 @@ TEST_P(EnvironmentTyped, UnparsableReplyLeavesOutputsAndNamesTheOperatorProxy) {
   TestService::Reply(GetParam().member, "");
   std::string outputs;
   EXPECT_FALSE(GetParam().call(proxy_, outputs));
-  if (GetParam().outputs != "none") EXPECT_EQ(outputs.find_first_not_of("-|9"), std::string::npos) << outputs;
+  if (GetParam().outputs != "none") {
+    EXPECT_EQ(outputs.find_first_not_of("-|9"), std::string::npos) << outputs;
+  }
   EXPECT_TRUE(LogCapture::Find(Line("FCRemoteContentOnTV_MSO_Proxy", "fail to parse json data\n")));
 }
 
