@@ -6,6 +6,9 @@
 
 // Task runtime
 #include "FCDebug.h"
+#include "FCError.h"
+#include "FCThread.h"
+#include "FCTimeWapper.h"
 
 // IPC transport
 #include "FCEMSProxy.h"
@@ -14,6 +17,7 @@
 #include "FCMessageBuffer.h"
 
 // Remote content records
+#include "CZundeResponse.h"
 #include "FCTime.h"
 
 // Set-top-box records

@@ -17,6 +17,7 @@
 #include "FCRemoteContentTypes.h"
 
 // --- record headers (begin) ---
+#include "CZundeResponse.h"
 #include "FCVirtualProgramData.h"
 #include "MBRNetworkChannel.h"
 #include "MBRNetworkChannelTable.h"
@@ -57,6 +58,11 @@ class FCMarshal {
   // --- smart channel guide and recommendations (FCMarshal_SmartChannelGuide.cpp) ---
 
   // --- certification rule and VOD providers (FCMarshal_CatalogueResponses.cpp) ---
+  // "out_cert_rule" and "out_vod_providers": forwarded to the records.
+  static bool CertRuleToJson(CZundeResponse_CertRule& rule, Json::Value& root);
+  static bool JsonToCertRule(Json::Value& root, CZundeResponse_CertRule& rule);
+  static bool VODProviderToJson(CZundeResponse_VODProviders& providers, Json::Value& root);
+  static bool JsonToVODProvider(Json::Value& root, CZundeResponse_VODProviders& providers);
 
   // --- set-top-box channels and programs (FCMarshal_MBR.cpp) ---
   // The channel's thirteen keys and the programme's five, flat in `root`.
