@@ -95,24 +95,28 @@ TEST(SemaphoreDeathTest, MisuseEndsTheProcess) {
       "");
 }
 
-TEST(Mutex, OwnerMayLockAgainAndMustUnlockAsOften) {
-  FCMutex mutex;
-  ASSERT_TRUE(mutex.Create());
-  mutex.Lock();
-  mutex.Lock();
-  mutex.Unlock();
-
+// With `mutex` held once by the caller: another thread must wait for the
+// caller's last Unlock before it gets the lock.
+void ExpectOtherThreadWaitsForTheLastUnlock(FCMutex& mutex) {
   std::atomic<bool> acquired{false};
   std::thread other([&] {
     mutex.Lock();
     acquired = true;
     mutex.Unlock();
   });
-  // Still held once: the other thread cannot have it yet.
   EXPECT_FALSE(acquired);
   mutex.Unlock();
   other.join();
   EXPECT_TRUE(acquired);
+}
+
+TEST(Mutex, OwnerMayLockAgainAndMustUnlockAsOften) {
+  FCMutex mutex;
+  ASSERT_TRUE(mutex.Create());
+  mutex.Lock();
+  mutex.Lock();
+  mutex.Unlock();
+  ExpectOtherThreadWaitsForTheLastUnlock(mutex);
   mutex.Destroy();
 }
 
@@ -121,17 +125,7 @@ TEST(Mutex, UnlockByAnotherThreadDoesNothing) {
   ASSERT_TRUE(mutex.Create());
   mutex.Lock();
   std::thread([&] { mutex.Unlock(); }).join();
-
-  std::atomic<bool> acquired{false};
-  std::thread other([&] {
-    mutex.Lock();
-    acquired = true;
-    mutex.Unlock();
-  });
-  EXPECT_FALSE(acquired);
-  mutex.Unlock();
-  other.join();
-  EXPECT_TRUE(acquired);
+  ExpectOtherThreadWaitsForTheLastUnlock(mutex);
   mutex.Destroy();
 }
 
