@@ -30,7 +30,8 @@
 //
 // JSON: {"program_id": {"TCServiceId": "<decimal>", "event_id": "...",
 //        "start_time": <unsigned>, "duration": <unsigned>}}
-// On reading, "start_time" may also be a W3C date-time text.
+// On reading, "start_time" may also be a W3C date-time text; text that is
+// no date-time reads as 0.
 class FCVirtualProgramId {
  public:
   FCVirtualProgramId();
@@ -244,6 +245,10 @@ class FCVirtualConfig {
   static bool FromJson(Json::Value& in, FCVirtualConfig& out);
 
  private:
+  // Where each field travels: one table serves both directions.
+  struct WireField;
+  static const WireField kWireFields[];
+
   std::string m_chPosition;
   std::string m_chPositionType;
   std::string m_bannerTvToVc;

@@ -9,6 +9,7 @@
 
 #include <json/json.h>
 
+#include <cstddef>
 #include <cstdlib>
 #include <string>
 
@@ -73,6 +74,43 @@ inline bool IsWorthCarrying(const Json::Value& value) {
   if (value.isArray() || value.isObject()) return !value.empty();
   if (value.isString()) return !value.asString().empty();
   return true;
+}
+
+// Field tables: a record lists its simple fields once, each with its key and
+// its public accessors, and WriteFields / ReadFields below walk the list.
+// `group` names the object a field is nested in, or is null.
+template <typename Record, typename Get, typename Set>
+struct Field {
+  const char* group;
+  const char* key;
+  Get (Record::*get)() const;
+  void (Record::*set)(Set);
+};
+
+template <typename Record>
+using TextField = Field<Record, const std::string&, const std::string&>;
+template <typename Record>
+using CountField = Field<Record, unsigned int, unsigned int>;
+template <typename Record>
+using IndexField = Field<Record, int, int>;
+
+inline Json::Value& Slot(Json::Value& out, const char* group, const char* key) {
+  return group != nullptr ? out[group][key] : out[key];
+}
+
+inline const Json::Value& Place(const Json::Value& in, const char* group) {
+  return group != nullptr ? Member(in, group) : in;
+}
+
+template <typename Record, typename Get, typename Set, std::size_t N>
+void WriteFields(const Record& record, Json::Value& out, const Field<Record, Get, Set> (&fields)[N]) {
+  for (const auto& field : fields) Slot(out, field.group, field.key) = (record.*field.get)();
+}
+
+// `read(object, key)` gives the value to store.
+template <typename Record, typename Get, typename Set, std::size_t N, typename Read>
+void ReadFields(const Json::Value& in, Record& record, const Field<Record, Get, Set> (&fields)[N], Read read) {
+  for (const auto& field : fields) (record.*field.set)(read(Place(in, field.group), field.key));
 }
 
 }  // namespace vcjson
