@@ -97,6 +97,20 @@ TEST(Calendar, CountsEveryFourthYearAsLeapEvenPast2099) {
   EXPECT_EQ(date.tm_mday, 29);
 }
 
+// A month beyond the table, such as the 13 that breaking down gives past the
+// calendar or the 0 of a "2016-00-01" text, counts into the adjacent years.
+TEST(Calendar, MonthsOutsideTheYearMoveIntoTheAdjacentYears) {
+  tm_struct date = {};
+  date.tm_mday = 1;
+  date.tm_year = 115;
+  date.tm_mon = 13;  // February 2016
+  EXPECT_EQ(DS1371_DateToBinary(&date), 1454284800UL);
+  date.tm_mon = -1;  // December 2014
+  EXPECT_EQ(DS1371_DateToBinary(&date), 1417392000UL);
+  date.tm_mon = 12;  // January 2016
+  EXPECT_EQ(DS1371_DateToBinary(&date), 1451606400UL);
+}
+
 struct LocalTimeCase {
   const char* name;
   int offsetMinutes;

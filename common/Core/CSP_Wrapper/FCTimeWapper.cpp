@@ -40,11 +40,19 @@ int MonthOfDay(unsigned long dayOfYear, bool leapYear, unsigned long* monthStart
 }  // namespace
 
 unsigned long DS1371_DateToBinary(tm_struct* time) {
-  const int year = time->tm_year;
+  // A month outside 0..11 (a date-time text may carry one) counts into the
+  // years around it, as mktime does, rather than past the month table. For
+  // months within the table this changes nothing.
+  int year = time->tm_year + time->tm_mon / 12;
+  int month = time->tm_mon % 12;
+  if (month < 0) {
+    month += 12;
+    --year;
+  }
   int leap = (year - 69) / 4;
-  if (time->tm_mon >= 2 && year % 4 == 0) ++leap;
+  if (month >= 2 && year % 4 == 0) ++leap;
   const unsigned long days =
-      DaysToMonth[time->tm_mon] + time->tm_mday - 1 + 365UL * static_cast<unsigned long>(year - 70) + leap;
+      DaysToMonth[month] + time->tm_mday - 1 + 365UL * static_cast<unsigned long>(year - 70) + leap;
   return ((days * 24 + time->tm_hour) * 3600) + time->tm_min * 60UL + time->tm_sec;
 }
 

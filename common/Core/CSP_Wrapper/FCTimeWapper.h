@@ -22,7 +22,8 @@ struct tm_struct {
 // Days before each month of a common year; entry 12 is the whole year.
 extern const unsigned int DaysToMonth[13];
 
-// Seconds since the epoch of a broken-down UTC time.
+// Seconds since the epoch of a broken-down UTC time. A month outside 0..11
+// moves into the following or preceding years (13 is February of the next).
 unsigned long DS1371_DateToBinary(tm_struct* time);
 
 // Breaks seconds since the epoch down into `time`, leaving `tm_unused` alone.
