@@ -135,13 +135,14 @@ TEST(FCVirtualProgramDataJson, ReadingLeavesTheInputAsItWas) {
   EXPECT_EQ(before, in);
 }
 
-TEST(FCVirtualProgramDataJson, ReadingReplacesThePlaylist) {
+TEST(FCVirtualProgramDataJson, ReadingAppendsToThePlaylist) {
   FCVirtualProgramData program = SampleProgram();
+  const size_t held = program.GetPlaylist().size();
   Json::Value in = Parse("{\"group_play_list\":[{\"id\":\"a\"},{\"id\":\"b\"}]}");
   FCVirtualProgramData::FromJson(in, program);
-  ASSERT_EQ(2U, program.GetPlaylist().size());
-  EXPECT_EQ("a", program.GetPlaylist()[0].GetItemId());
-  EXPECT_EQ("b", program.GetPlaylist()[1].GetItemId());
+  ASSERT_EQ(held + 2, program.GetPlaylist().size());
+  EXPECT_EQ("a", program.GetPlaylist()[held].GetItemId());
+  EXPECT_EQ("b", program.GetPlaylist()[held + 1].GetItemId());
 }
 
 struct NumberCase {

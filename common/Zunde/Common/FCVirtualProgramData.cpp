@@ -120,15 +120,15 @@ void ReadPlaylistItem(const Json::Value& in, FCVirtualPlaylistItem& out) {
   vcjson::ReadFields(in, out, kItemTexts, ReadText);
 }
 
-std::vector<FCVirtualPlaylistItem> ReadPlaylist(const Json::Value& list) {
-  std::vector<FCVirtualPlaylistItem> playlist;
-  if (!list.isArray()) return playlist;
+// Appends the items of `list` to `playlist`, as a reply is read into
+// whatever record the caller holds.
+void AppendPlaylist(const Json::Value& list, std::vector<FCVirtualPlaylistItem>& playlist) {
+  if (!list.isArray()) return;
   for (Json::ArrayIndex index = 0; index < list.size(); ++index) {
     FCVirtualPlaylistItem item;
     ReadPlaylistItem(list[index], item);
     playlist.push_back(item);
   }
-  return playlist;
 }
 
 }  // namespace
@@ -273,7 +273,7 @@ bool FCVirtualProgramData::FromJson(Json::Value& in, FCVirtualProgramData& out) 
   vcjson::ReadFields(in, out, kProgramIndexes, ReadIndex);
   out.m_startTime = StartTimeOfText(vcjson::String(in, kStartTimeKey));
   vcjson::ReadFields(in, out, kProgramCounts, vcjson::LenientUInt);
-  out.m_playlist = ReadPlaylist(vcjson::Member(in, kPlaylistKey));
+  AppendPlaylist(vcjson::Member(in, kPlaylistKey), out.m_playlist);
 
   Json::Value metadata(Json::objectValue);
   const std::set<std::string>& known = KnownProgramKeys();
@@ -308,7 +308,6 @@ bool FCVirtualChannelInfo::ToJson(const FCVirtualChannelInfo& info, Json::Value&
 bool FCVirtualChannelInfo::FromJson(Json::Value& in, FCVirtualChannelInfo& out) {
   out.m_major = vcjson::String(in, "major", "0");
   out.m_channelName = vcjson::String(in, "channel_name");
-  out.m_logoCollection.clear();
   const Json::Value& logos = vcjson::Member(in, "logo_collection");
   if (!logos.isArray()) return true;
   for (Json::ArrayIndex index = 0; index < logos.size(); ++index) {
