@@ -14,6 +14,8 @@
 #include "FCMessageBuffer.h"
 
 // Remote content records
+#include "FCElementData.h"
+#include "FCSmartChannelGuide.h"
 #include "FCTime.h"
 
 // Set-top-box records
