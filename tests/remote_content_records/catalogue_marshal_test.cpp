@@ -93,17 +93,6 @@ TEST(RecGroupMap, ElementsCarryTheirKeyUnderStringAndTheFirstWins) {
   EXPECT_EQ(received["key"].name, "first");
 }
 
-TEST(ProgramSourceMap, ElementsHoldTheSourceIdAndTheChannelKey) {
-  std::map<std::string, FCRemoteChannelKey> sent = {{"src", samples::ChannelKey()}};
-  Json::Value root;
-  FCMarshal::ProgramSourceMapToJson(sent, root);
-  EXPECT_EQ(TypesOf(root["out_tunable_program_source_id_map"][0]),
-            (KeyTypes{{"program_source_id", Json::stringValue}, {"channel_key", Json::objectValue}}));
-  std::map<std::string, FCRemoteChannelKey> received;
-  FCMarshal::JsonToProgramSourceMap(root, received);
-  EXPECT_EQ(received, sent);
-}
-
 TEST(ProgramMap, SourcesWithoutProgrammesHaveNoProgramArray) {
   FCRemoteProgram second = samples::Program();
   second.utc_starttime += 1800;
@@ -123,30 +112,6 @@ TEST(ProgramMap, SourcesWithoutProgrammesHaveNoProgramArray) {
   received.clear();
   FCMarshal::JsonToProgramMap(root, received);
   EXPECT_EQ(received, sent);
-}
-
-TEST(SingleRecords, ConfigTravelsUnderItsOwnObjectChannelAndProgramFlat) {
-  Json::Value root;
-  FCRemoteMSOConfig config;
-  config.strZipCode = "12345";
-  FCMarshal::FCRmoteMSOConfigToJson(config, root);
-  EXPECT_EQ(root["config"]["strZipCode"], "12345");
-  FCRemoteMSOConfig readConfig;
-  FCMarshal::JsonToFCRemoteMSOConfig(root, readConfig);
-  EXPECT_EQ(readConfig, config);
-
-  Json::Value program;
-  FCMarshal::FCRemoteProgramToJson(samples::Program(), program);
-  FCRemoteProgram readProgram;
-  FCMarshal::JsonToFCRemoteProgram(program, readProgram);
-  EXPECT_EQ(readProgram, samples::Program());
-
-  Json::Value channel;
-  FCRemoteChannel sentChannel = samples::Channel();
-  FCMarshal::FCRemoteChannelToJson(sentChannel, channel);
-  FCRemoteChannel readChannel;
-  FCMarshal::JsonToFCRemoteChannel(channel, readChannel);
-  EXPECT_EQ(readChannel.str_program_source_id, "src-1");
 }
 
 }  // namespace

@@ -70,9 +70,12 @@ TEST(MSOConfig, DefaultsAreEmptyWithModesUnset) {
 
 TEST(MSOConfig, EveryFieldTakesPartInEquality) {
   const std::function<void(FCRemoteMSOConfig&)> changes[] = {
-      [](FCRemoteMSOConfig& c) { c.strHeadend = "x"; },    [](FCRemoteMSOConfig& c) { c.strDeviceType = "x"; },
-      [](FCRemoteMSOConfig& c) { c.strZipCode = "x"; },    [](FCRemoteMSOConfig& c) { c.source = 0; },
-      [](FCRemoteMSOConfig& c) { c.antennaMode = 0; },     [](FCRemoteMSOConfig& c) { c.serviceMode = 0; },
+      [](FCRemoteMSOConfig& c) { c.strHeadend = "x"; },
+      [](FCRemoteMSOConfig& c) { c.strDeviceType = "x"; },
+      [](FCRemoteMSOConfig& c) { c.strZipCode = "x"; },
+      [](FCRemoteMSOConfig& c) { c.source = 0; },
+      [](FCRemoteMSOConfig& c) { c.antennaMode = 0; },
+      [](FCRemoteMSOConfig& c) { c.serviceMode = 0; },
       [](FCRemoteMSOConfig& c) { c.str_additional_info_with_json_format = "x"; },
   };
   for (const auto& change : changes) {
@@ -82,21 +85,6 @@ TEST(MSOConfig, EveryFieldTakesPartInEquality) {
   }
 }
 
-TEST(ChannelKey, GetKeyCopiesTheIdentifyingFields) {
-  FCRemoteChannel channel = samples::Channel();
-  FCRemoteChannelKey key;
-  channel.GetKey(key);
-  EXPECT_EQ(key.activityID, channel.activityID);
-  EXPECT_EQ(key.str_channel_number, channel.str_channel_number);
-  EXPECT_EQ(key.str_major, channel.str_major);
-  EXPECT_EQ(key.str_minor, channel.str_minor);
-  EXPECT_EQ(key.str_onid, channel.str_onid);
-  EXPECT_EQ(key.str_tsid, channel.str_tsid);
-  EXPECT_EQ(key.str_sid, channel.str_sid);
-  EXPECT_EQ(key.str_frequency, channel.str_frequency);
-  EXPECT_EQ(key.str_digital_flag, channel.str_digital_flag);
-}
-
 TEST(ChannelKey, OrdersBySignedActivityThenStringsInFieldOrder) {
   FCRemoteChannelKey a = samples::ChannelKey(), b = samples::ChannelKey();
   EXPECT_FALSE(a < b);
@@ -104,7 +92,7 @@ TEST(ChannelKey, OrdersBySignedActivityThenStringsInFieldOrder) {
   a.activityID = -1;
   EXPECT_TRUE(a < b);
   a = b;
-  a.str_channel_number = "8";   // decides before the later fields
+  a.str_channel_number = "8";  // decides before the later fields
   b.str_digital_flag = "0";
   EXPECT_TRUE(b < a);
   EXPECT_FALSE(a == b);
@@ -129,15 +117,6 @@ TEST(Genre, EmptyOnlyWithAllThreeContainersEmpty) {
   genre.repGenreList.resize(1);
   genre.Clear();
   EXPECT_TRUE(genre.IsEmpty());
-}
-
-TEST(FilterCriteria, ClearEmptiesTheStrings) {
-  FCFilterCriteria filter;
-  filter.rec_id = "R";
-  filter.rep_id = "P";
-  filter.genre_id_list = ",1,";
-  EXPECT_TRUE(filter.Clear());
-  EXPECT_EQ(filter.rec_id + filter.rep_id + filter.genre_id_list, "");
 }
 
 }  // namespace

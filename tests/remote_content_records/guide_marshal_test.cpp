@@ -70,7 +70,9 @@ TEST_P(RecommendationRequest, HasExactlyItsKeysWithTheirTypes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Requests, RecommendationRequest, ::testing::ValuesIn(kRequests),
-                         [](const ::testing::TestParamInfo<RequestCase>& info) { return std::string(info.param.name); });
+                         [](const ::testing::TestParamInfo<RequestCase>& info) {
+                           return std::string(info.param.name);
+                         });
 
 TEST(RecommendationRequest, OnNowReadsBackAllButTheRepId) {
   Json::Value root;
@@ -89,25 +91,6 @@ TEST(RecommendationRequest, OnNowReadsBackAllButTheRepId) {
   EXPECT_EQ(received.rec_id, "R1");
   EXPECT_EQ(received.genre_id_list, ",4,");
   EXPECT_EQ(received.rep_id, "");
-}
-
-TEST(RecommendationRequest, OthersReadBack) {
-  Json::Value upcoming, timeline, future;
-  FCFilterCriteria sent = Filter();
-  FCMarshal::MarshalllingForGetRecommendationUpcoming(kActivity, 77, 2, sent, upcoming);
-  FCMarshal::MarshalingForGetRecommendationTimeline(kActivity, 88, -1, 3, timeline);
-  FCMarshal::MarshalingForGetRecommendationFutureTimeline(kActivity, 2, 9, future);
-
-  eRemoteContentActivity activity{};
-  unsigned long utc = 0;
-  int count = 0, from = 0, to = 0;
-  FCFilterCriteria received;
-  FCMarshal::UnmarshalingForGetRecommendationUpcoming(upcoming, activity, utc, count, received);
-  EXPECT_EQ(std::make_tuple(activity, utc, count, received.rec_id), std::make_tuple(kActivity, 77UL, 2, "R1"));
-  FCMarshal::UnmarshalingForGetRecommendationTimeline(timeline, activity, utc, from, to);
-  EXPECT_EQ(std::make_tuple(utc, from, to), std::make_tuple(88UL, -1, 3));
-  FCMarshal::UnmarshalingForGetRecommendationFutureTimeline(future, activity, from, to);
-  EXPECT_EQ(std::make_tuple(from, to), std::make_tuple(2, 9));
 }
 
 TEST(GuideList, EmptyListLeavesTheKeyOut) {
@@ -157,8 +140,7 @@ TEST(Timeline, SlotsAndSequencesInAscendingOrder) {
   EXPECT_EQ(slots[1]["time_slot"], 5);
   const Json::Value& entries = slots[1]["sequence_map"];
   ASSERT_EQ(entries.size(), 2u);
-  EXPECT_EQ(TypesOf(entries[0]),
-            (KeyTypes{{"sequence", Json::intValue}, {"smart_channel_guide", Json::objectValue}}));
+  EXPECT_EQ(TypesOf(entries[0]), (KeyTypes{{"sequence", Json::intValue}, {"smart_channel_guide", Json::objectValue}}));
   EXPECT_EQ(entries[0]["sequence"], 1);
   EXPECT_EQ(entries[1]["sequence"], 2);
   EXPECT_EQ(entries[1]["smart_channel_guide"]["timeslot"], 5);

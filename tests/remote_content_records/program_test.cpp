@@ -23,11 +23,13 @@ std::string TextOf(FCRemoteProgram program) {
 
 TEST(ProgramText, CarriesItsKeysAsIntsAndStringsWithoutTheJsonOnlyFields) {
   Json::Value text = Parsed(TextOf(samples::Program()));
-  samples::KeyTypes expected = {{"activityID", Json::intValue},  {"utc_starttime", Json::intValue},
-                                {"duration", Json::intValue},    {"genre_array", Json::arrayValue}};
+  samples::KeyTypes expected = {{"activityID", Json::intValue},
+                                {"utc_starttime", Json::intValue},
+                                {"duration", Json::intValue},
+                                {"genre_array", Json::arrayValue}};
   for (const char* key : {"str_program_source_id", "str_channel_name", "str_channel_number", "str_program_id",
-                          "str_lang", "str_starttime", "strTitle", "str_cert_flag", "str_short_desc",
-                          "str_poster_url", "str_poster_type", "str_poster_overlay", "str_poster_index"}) {
+                          "str_lang", "str_starttime", "strTitle", "str_cert_flag", "str_short_desc", "str_poster_url",
+                          "str_poster_type", "str_poster_overlay", "str_poster_index"}) {
     expected[key] = Json::stringValue;
   }
   EXPECT_EQ(samples::TypesOf(text), expected);
@@ -103,7 +105,11 @@ const Change kChanges[] = {
     {"SourceId", [](FCRemoteProgram& p) { p.str_program_source_id = "x"; }, false},
     {"StartTime", [](FCRemoteProgram& p) { p.utc_starttime += 1; }, false},
     {"StartText", [](FCRemoteProgram& p) { p.str_starttime = "x"; }, false},
-    {"GenreOrder", [](FCRemoteProgram& p) { p.genre_array = {"2", "1"}; }, false},
+    {"GenreOrder",
+     [](FCRemoteProgram& p) {
+       p.genre_array = {"2", "1"};
+     },
+     false},
     {"ShortDesc", [](FCRemoteProgram& p) { p.str_short_desc = "x"; }, false},
     {"PosterIndex", [](FCRemoteProgram& p) { p.str_poster_index = "x"; }, false},
 };

@@ -44,12 +44,11 @@ auto MSOConfigFields() {
 // Inside the sub-object "channel_key".
 auto ChannelKeyFields() {
   using R = FCRemoteChannelKey;
-  return std::make_tuple(MakeField("activityID", &R::activityID),
-                         MakeField("str_channel_number", &R::str_channel_number), MakeField("str_major", &R::str_major),
-                         MakeField("str_minor", &R::str_minor), MakeField("str_onid", &R::str_onid),
-                         MakeField("str_tsid", &R::str_tsid), MakeField("str_sid", &R::str_sid),
-                         MakeField("str_frequency", &R::str_frequency),
-                         MakeField("str_digital_flag", &R::str_digital_flag));
+  return std::make_tuple(
+      MakeField("activityID", &R::activityID), MakeField("str_channel_number", &R::str_channel_number),
+      MakeField("str_major", &R::str_major), MakeField("str_minor", &R::str_minor), MakeField("str_onid", &R::str_onid),
+      MakeField("str_tsid", &R::str_tsid), MakeField("str_sid", &R::str_sid),
+      MakeField("str_frequency", &R::str_frequency), MakeField("str_digital_flag", &R::str_digital_flag));
 }
 
 auto ChannelFields() {
@@ -61,9 +60,9 @@ auto ChannelFields() {
       MakeField("str_minor", &R::str_minor), MakeField("str_onid", &R::str_onid), MakeField("str_tsid", &R::str_tsid),
       MakeField("str_sid", &R::str_sid), MakeField("str_frequency", &R::str_frequency),
       MakeField("str_ptc", &R::str_ptc), MakeField("str_icon_url", &R::str_icon_url),
-      MakeField("str_url_index", &R::str_url_index), MakeField("str_dtv", &R::str_dtv),
-      MakeField("embed", &R::embed), MakeField("str_digital_flag", &R::str_digital_flag),
-      MakeField("str_qam_flag", &R::str_qam_flag), MakeField("genre id", &R::genre_id),
+      MakeField("str_url_index", &R::str_url_index), MakeField("str_dtv", &R::str_dtv), MakeField("embed", &R::embed),
+      MakeField("str_digital_flag", &R::str_digital_flag), MakeField("str_qam_flag", &R::str_qam_flag),
+      MakeField("genre id", &R::genre_id),
       // Written "gere name", read "genre name": the two spellings in use on
       // the wire, kept apart on purpose.
       MakeAsymmetricField("gere name", "genre name", &R::genre_name), MakeField("ac_rank", &R::ac_rank));
@@ -77,12 +76,11 @@ auto ProgramFields() {
       MakeField("channel name", &R::str_channel_name), MakeField("channel number", &R::str_channel_number),
       MakeField("program id", &R::str_program_id), MakeField("lang", &R::str_lang),
       MakeField("start time", &R::str_starttime), MakeField<UnsignedReadAsInt>("utc start time", &R::utc_starttime),
-      MakeField("duration", &R::duration), MakeField("title", &R::strTitle),
-      MakeField("cert flag", &R::str_cert_flag), MakeField("genre array", &R::genre_array),
-      MakeField("poster url", &R::str_poster_url), MakeField("poster type", &R::str_poster_type),
-      MakeField("poster overlay", &R::str_poster_overlay), MakeField("poster index", &R::str_poster_index),
-      MakeField("short desc", &R::str_short_desc), MakeField("EndTime", &R::EndTime), MakeField("IsRF", &R::IsRF),
-      MakeField("desc", &R::desc));
+      MakeField("duration", &R::duration), MakeField("title", &R::strTitle), MakeField("cert flag", &R::str_cert_flag),
+      MakeField("genre array", &R::genre_array), MakeField("poster url", &R::str_poster_url),
+      MakeField("poster type", &R::str_poster_type), MakeField("poster overlay", &R::str_poster_overlay),
+      MakeField("poster index", &R::str_poster_index), MakeField("short desc", &R::str_short_desc),
+      MakeField("EndTime", &R::EndTime), MakeField("IsRF", &R::IsRF), MakeField("desc", &R::desc));
 }
 
 // The text form, but for its lossy "genre_array"; `desc`, `EndTime` and
@@ -212,14 +210,13 @@ bool FCRemoteChannel::FromJson(Json::Value& value, FCRemoteChannel& channel) {
 
 // --- FCRemoteProgram ---
 
-// A programme that does not convert is a broken service, and the service
-// side relies on the process ending rather than on a half-read programme:
-// log and assert. Written out in each catching function, so that the line
-// names that function.
-#define FC_PROGRAM_EXCEPTION_CAUGHT(method)                            \
-  do {                                                                 \
+// A programme that does not convert is never handed on half-read: the
+// process ends, after a line in the system log. The catch is written out in
+// each converting function, so that the line names that function.
+#define FC_PROGRAM_EXCEPTION_CAUGHT(method)                             \
+  do {                                                                  \
     FC_LOG_WARN(0, "[FCRemoteProgram::%s] Exception Caught\n", method); \
-    _FCAssert("0", __FILE__, __LINE__);                                \
+    _FCAssert("0", __FILE__, __LINE__);                                 \
   } while (0)
 
 FCRemoteProgram::FCRemoteProgram() : activityID(0), utc_starttime(0), duration(0), EndTime(0), IsRF(false) {}
@@ -373,16 +370,16 @@ FCAdditionalProgramRequest::FCAdditionalProgramRequest(std::string programSource
 FCAdditionalProgramRequest::~FCAdditionalProgramRequest() = default;
 
 namespace {
-auto Tied(const FCAdditionalProgramRequest& r) { return std::tie(r.str_program_source_id, r.utc_starttime, r.duration); }
+auto Tied(const FCAdditionalProgramRequest& r) {
+  return std::tie(r.str_program_source_id, r.utc_starttime, r.duration);
+}
 }  // namespace
 
 bool FCAdditionalProgramRequest::operator==(const FCAdditionalProgramRequest& other) const {
   return Tied(*this) == Tied(other);
 }
 
-bool FCAdditionalProgramRequest::operator!=(const FCAdditionalProgramRequest& other) const {
-  return !(*this == other);
-}
+bool FCAdditionalProgramRequest::operator!=(const FCAdditionalProgramRequest& other) const { return !(*this == other); }
 
 bool FCAdditionalProgramRequest::operator<(const FCAdditionalProgramRequest& other) const {
   return Tied(*this) < Tied(other);

@@ -206,7 +206,7 @@ class FCRemoteProgram {
   std::string str_channel_number;
   std::string str_program_id;
   std::string str_lang;
-  std::string str_starttime;  // local start time text
+  std::string str_starttime;   // local start time text
   unsigned int utc_starttime;  // seconds since the epoch
   int duration;                // seconds
   std::string strTitle;

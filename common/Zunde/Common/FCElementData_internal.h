@@ -36,9 +36,7 @@ inline const Json::Value& Member(const Json::Value& value, const char* key) { re
 struct Plain {
   static void Write(Json::Value& object, const char* key, const std::string& v) { object[key] = v; }
   static void Write(Json::Value& object, const char* key, int v) { object[key] = v; }
-  static void Write(Json::Value& object, const char* key, unsigned int v) {
-    object[key] = static_cast<Json::UInt>(v);
-  }
+  static void Write(Json::Value& object, const char* key, unsigned int v) { object[key] = static_cast<Json::UInt>(v); }
   static void Write(Json::Value& object, const char* key, bool v) { object[key] = v; }
   static void Write(Json::Value& object, const char* key, const std::vector<std::string>& v) {
     for (const std::string& item : v) object[key].append(Json::Value(item));
@@ -56,9 +54,7 @@ struct Plain {
 // An unsigned time written unsigned but read back as int, as the service
 // reads it: times beyond 2^31-1 do not convert.
 struct UnsignedReadAsInt {
-  static void Write(Json::Value& object, const char* key, unsigned int v) {
-    object[key] = static_cast<Json::UInt>(v);
-  }
+  static void Write(Json::Value& object, const char* key, unsigned int v) { object[key] = static_cast<Json::UInt>(v); }
   static void Read(const Json::Value& value, unsigned int& out) { out = static_cast<unsigned int>(value.asInt()); }
 };
 

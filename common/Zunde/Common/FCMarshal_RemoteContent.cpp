@@ -132,17 +132,15 @@ bool FCMarshal::JsonToProgramSourceMap(Json::Value& root, std::map<std::string, 
 }
 
 bool FCMarshal::ProgramMapToJson(std::map<std::string, std::vector<FCRemoteProgram> >& programs, Json::Value& root) {
-  WriteKeyedMap(programs, kProgramMapKey, kProgramSourceIdKey, root,
-                [](std::vector<FCRemoteProgram>& list, Json::Value& element) {
-                  WriteList(list, kProgramArrayKey, element);
-                });
+  WriteKeyedMap(
+      programs, kProgramMapKey, kProgramSourceIdKey, root,
+      [](std::vector<FCRemoteProgram>& list, Json::Value& element) { WriteList(list, kProgramArrayKey, element); });
   return true;
 }
 
 bool FCMarshal::JsonToProgramMap(Json::Value& root, std::map<std::string, std::vector<FCRemoteProgram> >& programs) {
-  ReadKeyedMap(root, kProgramMapKey, kProgramSourceIdKey, programs,
-               [](Json::Value& element, std::vector<FCRemoteProgram>& list) {
-                 ReadList(element, kProgramArrayKey, list);
-               });
+  ReadKeyedMap(
+      root, kProgramMapKey, kProgramSourceIdKey, programs,
+      [](Json::Value& element, std::vector<FCRemoteProgram>& list) { ReadList(element, kProgramArrayKey, list); });
   return true;
 }

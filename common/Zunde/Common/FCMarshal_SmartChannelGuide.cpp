@@ -101,9 +101,9 @@ bool FCMarshal::UnmarshalingForGetRecommendationOnNow(Json::Value& root, eRemote
   return true;
 }
 
-bool FCMarshal::MarshalllingForGetRecommendationUpcoming(eRemoteContentActivity activity,
-                                                         unsigned long utcCurrentTime, int numberOfRecommendation,
-                                                         FCFilterCriteria& filter, Json::Value& root) {
+bool FCMarshal::MarshalllingForGetRecommendationUpcoming(eRemoteContentActivity activity, unsigned long utcCurrentTime,
+                                                         int numberOfRecommendation, FCFilterCriteria& filter,
+                                                         Json::Value& root) {
   activityIDToJson(activity, root);
   WriteTime(utcCurrentTime, root);
   root[kNumberKey] = numberOfRecommendation;

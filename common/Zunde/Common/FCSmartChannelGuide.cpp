@@ -47,8 +47,7 @@ auto TiedForEquality(const FCSmartChannelGuide& g) {
 
 // --- FCSmartChannelGuide ---
 
-FCSmartChannelGuide::FCSmartChannelGuide()
-    : activityID(0), timeslot(0), sequence(0), utc_starttime(0), duration(0) {}
+FCSmartChannelGuide::FCSmartChannelGuide() : activityID(0), timeslot(0), sequence(0), utc_starttime(0), duration(0) {}
 
 FCSmartChannelGuide::~FCSmartChannelGuide() = default;
 
