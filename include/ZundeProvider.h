@@ -18,6 +18,8 @@
 
 // Remote content records
 #include "CZundeResponse.h"
+#include "FCElementData.h"
+#include "FCSmartChannelGuide.h"
 #include "FCTime.h"
 
 // Set-top-box records

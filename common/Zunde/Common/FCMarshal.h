@@ -18,6 +18,8 @@
 
 // --- record headers (begin) ---
 #include "CZundeResponse.h"
+#include "FCElementData.h"
+#include "FCSmartChannelGuide.h"
 #include "FCVirtualProgramData.h"
 #include "MBRNetworkChannel.h"
 #include "MBRNetworkChannelTable.h"
@@ -54,8 +56,92 @@ class FCMarshal {
 
 
   // --- remote content catalogue records (FCMarshal_RemoteContent.cpp) ---
+  // One record, in its own JSON form: the configuration under "config", the
+  // channel's and the programme's keys flat in `root`.
+  static bool FCRmoteMSOConfigToJson(FCRemoteMSOConfig const& config, Json::Value& root);
+  static bool JsonToFCRemoteMSOConfig(Json::Value& root, FCRemoteMSOConfig& config);
+  static bool FCRemoteChannelToJson(FCRemoteChannel& channel, Json::Value& root);
+  static bool JsonToFCRemoteChannel(Json::Value& root, FCRemoteChannel& channel);
+  static bool FCRemoteProgramToJson(FCRemoteProgram const& program, Json::Value& root);
+  static bool JsonToFCRemoteProgram(Json::Value& root, FCRemoteProgram& program);
+  // Lists and maps: one array member each, left out when the container is
+  // empty. Reading appends to the caller's vector, or inserts into the
+  // caller's map where a key already there (or met earlier) keeps its value.
+  // "channel_array": channel objects.
+  static bool ChannelListToJson(std::vector<FCRemoteChannel>& channels, Json::Value& root);
+  static bool JsonToChannelList(Json::Value& root, std::vector<FCRemoteChannel>& channels);
+  // "array_genre": genre objects.
+  static bool GenreListToJson(std::vector<FCGenreInfo>& genres, Json::Value& root);
+  static bool JsonToGenreList(Json::Value& root, std::vector<FCGenreInfo>& genres);
+  // "out_array_rep_genre": representative genre objects.
+  static bool RepGenreListToJson(std::vector<FCRepGenreInfo>& genres, Json::Value& root);
+  static bool JsonToRepGenreList(Json::Value& root, std::vector<FCRepGenreInfo>& genres);
+  // "out_map_rec_group": rec group objects in key order, each with its map
+  // key under "string".
+  static bool RecGroupMapToJson(std::map<std::string, FCRecGroup>& groups, Json::Value& root);
+  static bool JsonToRecGroupMap(Json::Value& root, std::map<std::string, FCRecGroup>& groups);
+  // "out_tunable_program_source_id_map": objects holding the map key under
+  // "program_source_id" and the channel key under "channel_key".
+  static bool ProgramSourceMapToJson(std::map<std::string, FCRemoteChannelKey>& keys, Json::Value& root);
+  static bool JsonToProgramSourceMap(Json::Value& root, std::map<std::string, FCRemoteChannelKey>& keys);
+  // "out_mapProgramWithSourceID": objects holding the map key under
+  // "program_source_id" and the programmes under "program_array" (left out
+  // when there are none).
+  static bool ProgramMapToJson(std::map<std::string, std::vector<FCRemoteProgram> >& programs, Json::Value& root);
+  static bool JsonToProgramMap(Json::Value& root, std::map<std::string, std::vector<FCRemoteProgram> >& programs);
 
   // --- smart channel guide and recommendations (FCMarshal_SmartChannelGuide.cpp) ---
+  // The recommendation requests. Of the filter only "genre id list" and
+  // "rec id" travel; the service sees no rep id. Reading leaves the
+  // filter's rep id as it was.
+  // "activityID" (int), "current_watching_program_source_id" (string),
+  // "utc_currenttime" (unsigned), "number_of_recommendation" (int), "genre id
+  // list", "rec id" (strings)
+  static bool MarshalingForGetRecommendationOnNow(eRemoteContentActivity activity,
+                                                  std::string currentWatchingProgramSourceId,
+                                                  unsigned long utcCurrentTime, int numberOfRecommendation,
+                                                  FCFilterCriteria& filter, Json::Value& root);
+  static bool UnmarshalingForGetRecommendationOnNow(Json::Value& root, eRemoteContentActivity& activity,
+                                                    std::string& currentWatchingProgramSourceId,
+                                                    unsigned long& utcCurrentTime, int& numberOfRecommendation,
+                                                    FCFilterCriteria& filter);
+  // "activityID", "utc_currenttime", "number_of_recommendation", "genre id
+  // list", "rec id"
+  static bool MarshalllingForGetRecommendationUpcoming(eRemoteContentActivity activity, unsigned long utcCurrentTime,
+                                                       int numberOfRecommendation, FCFilterCriteria& filter,
+                                                       Json::Value& root);
+  static bool UnmarshalingForGetRecommendationUpcoming(Json::Value& root, eRemoteContentActivity& activity,
+                                                       unsigned long& utcCurrentTime, int& numberOfRecommendation,
+                                                       FCFilterCriteria& filter);
+  // "activityID", "utc_currenttime" (unsigned), "from_timeslot",
+  // "to_timeslot" (ints)
+  static bool MarshalingForGetRecommendationTimeline(eRemoteContentActivity activity, unsigned long utcCurrentTime,
+                                                     int fromTimeslot, int toTimeslot, Json::Value& root);
+  static bool UnmarshalingForGetRecommendationTimeline(Json::Value& root, eRemoteContentActivity& activity,
+                                                       unsigned long& utcCurrentTime, int& fromTimeslot,
+                                                       int& toTimeslot);
+  // "activityID", "from_dayslot", "to_dayslot" (ints)
+  static bool MarshalingForGetRecommendationFutureTimeline(eRemoteContentActivity activity, int fromDayslot,
+                                                           int toDayslot, Json::Value& root);
+  static bool UnmarshalingForGetRecommendationFutureTimeline(Json::Value& root, eRemoteContentActivity& activity,
+                                                             int& fromDayslot, int& toDayslot);
+  // The results, each one array member left out when the container is
+  // empty. Reading appends to the caller's list, or inserts into the
+  // caller's timeline where a slot already there (or met earlier) keeps its
+  // entries and, within a slot, the first entry of a sequence wins.
+  // "out_list": guide entries in list order.
+  static bool FCSmartChannelGuideListToJson(std::list<FCSmartChannelGuide>& guides, Json::Value& root);
+  static bool JsonToFCSmartChannelGuideList(Json::Value& root, std::list<FCSmartChannelGuide>& guides);
+  // "out_timeline": per time slot, ascending, {"time_slot": slot,
+  // "sequence_map": [{"sequence": n, "smart_channel_guide": entry}, ...]};
+  // a slot without entries has no "sequence_map".
+  static bool TimeLineToJson(std::map<int, std::map<int, FCSmartChannelGuide> >& timeline, Json::Value& root);
+  static bool JsonToTimeLine(Json::Value& root, std::map<int, std::map<int, FCSmartChannelGuide> >& timeline);
+  // "out_future_timeline": as the timeline, with "day_slot" for the slot.
+  static bool FutureTimeLineToJson(std::map<int, std::map<int, FCSmartChannelGuide_Future> >& timeline,
+                                   Json::Value& root);
+  static bool JsonToFutureTimeLine(Json::Value& root,
+                                   std::map<int, std::map<int, FCSmartChannelGuide_Future> >& timeline);
 
   // --- certification rule and VOD providers (FCMarshal_CatalogueResponses.cpp) ---
   // "out_cert_rule" and "out_vod_providers": forwarded to the records.

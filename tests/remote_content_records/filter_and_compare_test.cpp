@@ -1,0 +1,122 @@
+// Filtering by genre, and the comparisons and small operations of the
+// catalogue records.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "record_samples.h"
+
+namespace {
+
+struct FilterCase {
+  const char* name;
+  const char* recId;
+  const char* repId;
+  const char* genreIdList;
+  std::vector<std::string> genres;
+  bool satisfied;
+};
+
+const FilterCase kFilters[] = {
+    {"NoFilterTakesAll", "", "", ",1,", {"9"}, true},
+    {"NoFilterTakesOneWithoutGenres", "", "", "", {}, true},
+    {"RepIdAloneFilters", "", "P", ",7,", {"8"}, false},
+    {"WithoutGenresNothingMatches", "R", "", ",7,", {}, false},
+    {"AnyGenreMatches", "R", "", ",7,", {"3", "7"}, true},
+    {"NoPartialIds", "R", "", ",7,", {"77"}, false},
+    {"InsideALongerList", "R", "", ",12,15,", {"15"}, true},
+    {"ListWithoutCommasNeverMatches", "R", "", "4", {"4"}, false},
+};
+
+FCFilterCriteria Filter(const FilterCase& c) {
+  FCFilterCriteria filter;
+  filter.rec_id = c.recId;
+  filter.rep_id = c.repId;
+  filter.genre_id_list = c.genreIdList;
+  return filter;
+}
+
+class GenreFilter : public ::testing::TestWithParam<FilterCase> {};
+
+TEST_P(GenreFilter, Program) {
+  FCRemoteProgram program;
+  program.genre_array = GetParam().genres;
+  FCFilterCriteria filter = Filter(GetParam());
+  EXPECT_EQ(program.IsSatisfyFilterCriteria(filter), GetParam().satisfied);
+}
+
+TEST_P(GenreFilter, GuideEntry) {
+  FCSmartChannelGuide guide;
+  guide.content_genre_array = GetParam().genres;
+  FCFilterCriteria filter = Filter(GetParam());
+  EXPECT_EQ(guide.IsSatisfyFilterCriteria(filter), GetParam().satisfied);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, GenreFilter, ::testing::ValuesIn(kFilters),
+                         [](const ::testing::TestParamInfo<FilterCase>& info) { return std::string(info.param.name); });
+
+TEST(MSOConfig, DefaultsAreEmptyWithModesUnset) {
+  FCRemoteMSOConfig config;
+  EXPECT_EQ(config.strHeadend, "");
+  EXPECT_EQ(config.strDeviceType, "");
+  EXPECT_EQ(config.strZipCode, "");
+  EXPECT_EQ(config.source, -1);
+  EXPECT_EQ(config.antennaMode, -1);
+  EXPECT_EQ(config.serviceMode, -1);
+  EXPECT_EQ(config.str_additional_info_with_json_format, "");
+  EXPECT_TRUE(config == FCRemoteMSOConfig());
+  EXPECT_FALSE(config != FCRemoteMSOConfig());
+}
+
+TEST(MSOConfig, EveryFieldTakesPartInEquality) {
+  const std::function<void(FCRemoteMSOConfig&)> changes[] = {
+      [](FCRemoteMSOConfig& c) { c.strHeadend = "x"; },
+      [](FCRemoteMSOConfig& c) { c.strDeviceType = "x"; },
+      [](FCRemoteMSOConfig& c) { c.strZipCode = "x"; },
+      [](FCRemoteMSOConfig& c) { c.source = 0; },
+      [](FCRemoteMSOConfig& c) { c.antennaMode = 0; },
+      [](FCRemoteMSOConfig& c) { c.serviceMode = 0; },
+      [](FCRemoteMSOConfig& c) { c.str_additional_info_with_json_format = "x"; },
+  };
+  for (const auto& change : changes) {
+    FCRemoteMSOConfig config;
+    change(config);
+    EXPECT_TRUE(config != FCRemoteMSOConfig());
+  }
+}
+
+TEST(ChannelKey, OrdersBySignedActivityThenStringsInFieldOrder) {
+  FCRemoteChannelKey a = samples::ChannelKey(), b = samples::ChannelKey();
+  EXPECT_FALSE(a < b);
+  EXPECT_TRUE(a == b);
+  a.activityID = -1;
+  EXPECT_TRUE(a < b);
+  a = b;
+  a.str_channel_number = "8";  // decides before the later fields
+  b.str_digital_flag = "0";
+  EXPECT_TRUE(b < a);
+  EXPECT_FALSE(a == b);
+}
+
+TEST(AdditionalProgramRequest, OrdersBySourceThenStartThenDuration) {
+  using R = FCAdditionalProgramRequest;
+  EXPECT_TRUE(R("A", 10, 5) < R("A", 10, 6));
+  EXPECT_FALSE(R("B", 1, 1) < R("A", 9, 9));
+  EXPECT_TRUE(R("A", 10, 9) < R("A", 11, -9));
+  EXPECT_TRUE(R("A", 10, -1) < R("A", 10, 0));
+  EXPECT_TRUE(R("A", 1, 2) == R("A", 1, 2));
+  EXPECT_TRUE(R("A", 1, 2) != R("A", 1, 3));
+}
+
+TEST(Genre, EmptyOnlyWithAllThreeContainersEmpty) {
+  FCGenre genre;
+  EXPECT_TRUE(genre.IsEmpty());
+  genre.recGroupMap["r"] = FCRecGroup();
+  EXPECT_FALSE(genre.IsEmpty());
+  genre.genreList.resize(1);
+  genre.repGenreList.resize(1);
+  genre.Clear();
+  EXPECT_TRUE(genre.IsEmpty());
+}
+
+}  // namespace
