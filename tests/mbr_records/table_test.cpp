@@ -1,24 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "MBRNetworkChannelTable.h"
 #include "log_capture.h"
+#include "mbr_samples.h"
 
 namespace {
 
 using zunde::testing::LogCapture;
 
-FCMBRNetworkChannel Channel(int major, int minor, int channelId, std::string name = "") {
-  FCMBRNetworkChannel channel;
-  channel.SetMajor(major);
-  channel.SetMinor(minor);
-  channel.SetChannelID(channelId);
-  channel.SetName(name);
-  return channel;
-}
+using mbrsamples::Channel;
+using mbrsamples::Program;
 
 FCMBRNetworkChannelTable Table(const std::vector<FCMBRNetworkChannel>& channels) {
   FCMBRNetworkChannelTable table;
@@ -26,34 +20,30 @@ FCMBRNetworkChannelTable Table(const std::vector<FCMBRNetworkChannel>& channels)
   return table;
 }
 
-// (major, minor, channel id, name) of each channel, in list order.
-std::vector<std::tuple<int, int, int, std::string>> Keys(const FCMBRNetworkChannelTable& table) {
-  std::vector<std::tuple<int, int, int, std::string>> keys;
-  for (const auto& c : table.GetNetworkChannelList())
-    keys.emplace_back(c.GetMajor(), c.GetMinor(), c.GetChannelID(), c.GetName());
-  return keys;
+// The names of the channels, in list order.
+std::vector<std::string> Names(const FCMBRNetworkChannelTable& table) {
+  std::vector<std::string> names;
+  for (const auto& channel : table.GetNetworkChannelList()) names.push_back(channel.GetName());
+  return names;
 }
 
 TEST(MBRNetworkChannelTable, SortOrdersByKeysAndKeepsTiesInListOrder) {
-  FCMBRNetworkChannelTable table = Table({Channel(5, 2, 9), Channel(5, 1, 3, "first"), Channel(3, 8, 1),
-                                          Channel(5, 1, 3, "second"), Channel(5, 1, 3, "third"), Channel(-1, 9, 9)});
+  FCMBRNetworkChannelTable table = Table(
+      {Channel(5, 2, 9, "5.2#9"), Channel(5, 1, 3, "first"), Channel(3, 8, 1, "3.8#1"), Channel(5, 1, 3, "second"),
+       Channel(5, 1, 4, "5.1#4"), Channel(5, 1, 3, "third"), Channel(-1, 9, 9, "-1.9#9")});
   table.Sort();
-  using K = std::tuple<int, int, int, std::string>;
-  EXPECT_EQ(Keys(table), (std::vector<K>{K{-1, 9, 9, ""}, K{3, 8, 1, ""}, K{5, 1, 3, "first"}, K{5, 1, 3, "second"},
-                                         K{5, 1, 3, "third"}, K{5, 2, 9, ""}}));
+  EXPECT_EQ(Names(table), (std::vector<std::string>{"-1.9#9", "3.8#1", "first", "second", "third", "5.1#4", "5.2#9"}));
 }
 
 TEST(MBRNetworkChannelTable, MergeAppendsWithoutDeduplicating) {
-  FCMBRNetworkChannelTable table = Table({Channel(1, 0, 1)});
-  EXPECT_TRUE(table.Merge(Table({Channel(2, 0, 2), Channel(1, 0, 1)})));
+  FCMBRNetworkChannelTable table = Table({Channel(1, 0, 1, "one")});
+  EXPECT_TRUE(table.Merge(Table({Channel(2, 0, 2, "two"), Channel(1, 0, 1, "one")})));
   EXPECT_TRUE(table.Merge(FCMBRNetworkChannelTable()));
   EXPECT_TRUE(table.Merge(table));
-  using K = std::tuple<int, int, int, std::string>;
-  const K one{1, 0, 1, ""}, two{2, 0, 2, ""};
-  EXPECT_EQ(Keys(table), (std::vector<K>{one, two, one, one, two, one}));
+  EXPECT_EQ(Names(table), (std::vector<std::string>{"one", "two", "one", "one", "two", "one"}));
 }
 
-TEST(MBRNetworkChannelTable, LookUpsCopyTheFirstMatch) {
+TEST(MBRNetworkChannelTable, LookUpsCopyTheFirstMatchOrLeaveTheOutputAlone) {
   FCMBRNetworkChannel edited = Channel(12, 1, 40, "edited");
   edited.SetOriginMajor(7);
   const FCMBRNetworkChannelTable table =
@@ -68,44 +58,28 @@ TEST(MBRNetworkChannelTable, LookUpsCopyTheFirstMatch) {
   EXPECT_EQ(out.GetName(), "later seven");
   ASSERT_TRUE(table.FindNetworkChannelByChannelIDOriginMajor(40, 7, out));
   EXPECT_EQ(out.GetName(), "edited");
-}
 
-TEST(MBRNetworkChannelTable, FailedLookUpsLeaveTheOutputAlone) {
-  FCMBRNetworkChannel edited = Channel(12, 1, 40, "edited");
-  edited.SetOriginMajor(7);
-  const FCMBRNetworkChannelTable table = Table({edited});
   const FCMBRNetworkChannel sentinel = Channel(99, 99, 99, "sentinel");
-
-  FCMBRNetworkChannel out = sentinel;
-  EXPECT_FALSE(table.FindNetworkChannelbyMajorMinor(7, 1, out));  // the origin major is not the shown one
-  EXPECT_FALSE(table.FindNetworkChannelbyChannelID(41, out));
+  out = sentinel;
+  EXPECT_FALSE(Table({edited}).FindNetworkChannelbyMajorMinor(7, 1, out));  // the origin major is not the shown one
+  EXPECT_FALSE(table.FindNetworkChannelbyChannelID(43, out));
   EXPECT_FALSE(table.FindNetworkChannelByChannelIDOriginMajor(40, 12, out));
   EXPECT_EQ(out, sentinel);
 }
 
-struct MaxCase {
-  const char* name;
-  std::vector<std::pair<int, int>> majorMinor;
-  int maxMajor;
-  int maxMinor;
-};
-
-class MBRNetworkChannelTableMax : public ::testing::TestWithParam<MaxCase> {};
-
-TEST_P(MBRNetworkChannelTableMax, TakesEachMaximumSeparatelyFromZero) {
-  FCMBRNetworkChannelTable table;
-  for (const auto& [major, minor] : GetParam().majorMinor) table.AppendNetworkChannel(Channel(major, minor, 1));
-  int maxMajor = -7, maxMinor = -7;
-  EXPECT_TRUE(table.GetMaxNumberOfMajorMinor(maxMajor, maxMinor));
-  EXPECT_EQ(maxMajor, GetParam().maxMajor);
-  EXPECT_EQ(maxMinor, GetParam().maxMinor);
+TEST(MBRNetworkChannelTable, MaxTakesEachMaximumSeparatelyFromZero) {
+  const struct {
+    std::vector<std::pair<int, int>> majorMinor;
+    int maxMajor, maxMinor;
+  } cases[] = {{{{7, 1}, {3, 9}}, 7, 9}, {{{-1, 4}, {-1, 2}}, 0, 4}, {{{-1, -5}, {-3, -1}}, 0, 0}};
+  for (const auto& c : cases) {
+    FCMBRNetworkChannelTable table;
+    for (const auto& [major, minor] : c.majorMinor) table.AppendNetworkChannel(Channel(major, minor, 1));
+    int maxMajor = -7, maxMinor = -7;
+    EXPECT_TRUE(table.GetMaxNumberOfMajorMinor(maxMajor, maxMinor));
+    EXPECT_EQ(std::make_pair(maxMajor, maxMinor), std::make_pair(c.maxMajor, c.maxMinor));
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, MBRNetworkChannelTableMax,
-                         ::testing::Values(MaxCase{"Separate", {{7, 1}, {3, 9}}, 7, 9},
-                                           MaxCase{"NoMajors", {{-1, 4}, {-1, 2}}, 0, 4},
-                                           MaxCase{"AllNegative", {{-1, -5}, {-3, -1}}, 0, 0}),
-                         [](const ::testing::TestParamInfo<MaxCase>& info) { return std::string(info.param.name); });
 
 TEST(MBRNetworkChannelTable, MaxOfEmptyTableWarnsAndAnswersZero) {
   LogCapture::Clear();
@@ -124,67 +98,48 @@ TEST(MBRNetworkChannelTable, MaxOfEmptyTableWarnsAndAnswersZero) {
             "GetMaxNumberOfMajorMinor(), m_mbrNetworkChannelDB is empty!\n");
 }
 
-FCMBRNetworkProgram Program(const std::string& id, unsigned long start, int duration) {
-  FCMBRNetworkProgram program;
-  std::string programId = id;
-  program.SetProgramID(programId);
-  program.SetStartTime(start);
-  program.SetDuration(duration);
-  return program;
+TEST(MBRNetworkProgramTable, FindsTheFirstProgrammeRunningAtATime) {
+  const FCMBRNetworkProgram news = Program("news", 100, 50);
+  const unsigned long top = 0xFFFFFFF0UL;
+  const struct {
+    std::vector<FCMBRNetworkProgram> programs;
+    unsigned long time;
+    const char* found;  // null when none
+  } cases[] = {{{news}, 100, "news"},
+               {{news}, 149, "news"},
+               {{news}, 150, nullptr},
+               {{news}, 99, nullptr},
+               {{Program("empty", 100, 0)}, 100, nullptr},
+               {{Program("late", 150, 10), Program("long", 100, 100)}, 155, "long"},  // the earlier start wins
+               // The end wraps at 32 bits: past the top, and not over to the start of the range.
+               {{Program("wrap", top, 0x20)}, top + 5, nullptr},
+               {{Program("wrap", top, 0x20)}, 5, nullptr},
+               {{Program("all", 0, -1)}, 0xFFFFFFFEUL, "all"},
+               {{news}, static_cast<unsigned long>(0x100000064ULL), "news"}};  // the time keeps 32 bits
+  for (const auto& c : cases) {
+    FCMBRNetworkProgramTable table;
+    for (auto program : c.programs) table.AppendNetworkProgram(program);
+    FCMBRNetworkProgram out = Program("untouched", 1, 1);
+    const bool found = table.FindNetworkProgrambyStartTime(c.time, out);
+    EXPECT_EQ(found, c.found != nullptr) << c.time;
+    EXPECT_EQ(out.GetProgramID(), found ? c.found : "untouched");
+  }
 }
-
-struct TimeCase {
-  const char* name;
-  std::vector<FCMBRNetworkProgram> programs;
-  unsigned long time;
-  const char* found;  // null when none
-};
-
-class MBRNetworkProgramTableTime : public ::testing::TestWithParam<TimeCase> {};
-
-TEST_P(MBRNetworkProgramTableTime, FindsTheFirstRunningProgramme) {
-  FCMBRNetworkProgramTable table;
-  for (auto program : GetParam().programs) table.AppendNetworkProgram(program);
-  FCMBRNetworkProgram out = Program("untouched", 1, 1);
-  const bool found = table.FindNetworkProgrambyStartTime(GetParam().time, out);
-  EXPECT_EQ(found, GetParam().found != nullptr);
-  EXPECT_EQ(out.GetProgramID(), found ? GetParam().found : "untouched");
-}
-
-const FCMBRNetworkProgram kNews = Program("news", 100, 50);
-const unsigned long kTop = 0xFFFFFFF0UL;
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, MBRNetworkProgramTableTime,
-    ::testing::Values(TimeCase{"AtStart", {kNews}, 100, "news"}, TimeCase{"LastSecond", {kNews}, 149, "news"},
-                      TimeCase{"AtEnd", {kNews}, 150, nullptr}, TimeCase{"BeforeStart", {kNews}, 99, nullptr},
-                      TimeCase{"ZeroDuration", {Program("empty", 100, 0)}, 100, nullptr},
-                      TimeCase{"EarlierStartWins", {Program("late", 150, 10), Program("long", 100, 100)}, 155, "long"},
-                      TimeCase{"EndWrapsPastTop", {Program("wrap", kTop, 0x20)}, kTop + 5, nullptr},
-                      TimeCase{"WrappedEndIsNoStart", {Program("wrap", kTop, 0x20)}, 5, nullptr},
-                      TimeCase{"UnknownDurationFromZero", {Program("all", 0, -1)}, 0xFFFFFFFEUL, "all"},
-                      TimeCase{"TimeKeepsThirtyTwoBits",
-                               {kNews},
-                               static_cast<unsigned long>(0x100000064ULL),
-                               "news"}),
-    [](const ::testing::TestParamInfo<TimeCase>& info) { return std::string(info.param.name); });
 
 TEST(MBRNetworkProgramTable, AppendAndMergeKeepTheProgrammeAlreadyThere) {
-  FCMBRNetworkProgramTable table;
-  FCMBRNetworkProgram first = Program("first", 100, 10), second = Program("second", 100, 10);
+  FCMBRNetworkProgramTable table, other;
+  FCMBRNetworkProgram first = Program("first", 100), second = Program("second", 100);
+  FCMBRNetworkProgram third = Program("third", 100), earlier = Program("earlier", 50);
   EXPECT_TRUE(table.AppendNetworkProgram(first));
   EXPECT_TRUE(table.AppendNetworkProgram(second));
-
-  FCMBRNetworkProgramTable other;
-  FCMBRNetworkProgram third = Program("third", 100, 10), later = Program("later", 50, 10);
   other.AppendNetworkProgram(third);
-  other.AppendNetworkProgram(later);
+  other.AppendNetworkProgram(earlier);
   EXPECT_TRUE(table.Merge(other));
 
   const auto& map = table.GetNetworkProgramMap();
   ASSERT_EQ(map.size(), 2U);
   EXPECT_EQ(map.at(100).GetProgramID(), "first");
-  EXPECT_EQ(map.begin()->second.GetProgramID(), "later");
+  EXPECT_EQ(map.begin()->second.GetProgramID(), "earlier");
 }
 
 }  // namespace
