@@ -5,14 +5,11 @@
 #include <string>
 
 #include "ZundeProvider.h"
+#include "json_text.h"
 
 namespace {
 
-Json::Value Parsed(std::string text) {
-  Json::Value root;
-  EXPECT_TRUE(FCMarshal::ParseToJson(text, root)) << text;
-  return root;
-}
+using zunde::testing::Parsed;
 
 const char* const kCertRuleKeys[] = {"str_adult_default",        "str_bar_mode",
                                      "str_bar_ratio",            "str_first_screen",

@@ -14,14 +14,14 @@ namespace {
 using mbrsamples::Compact;
 using mbrsamples::EditedChannel;
 using mbrsamples::JsonOf;
-using mbrsamples::Parse;
+using mbrsamples::Parsed;
 using mbrsamples::Program;
 
 using mbrsamples::kDefaultChannelJson;
 using mbrsamples::kEditedChannelJson;
 
 FCMBRNetworkChannel ReadChannel(const std::string& text, FCMBRNetworkChannel channel = FCMBRNetworkChannel()) {
-  Json::Value root = Parse(text);
+  Json::Value root = Parsed(text);
   EXPECT_TRUE(FCMarshal::JsonToMBRNetworkChannel(root, channel));
   return channel;
 }
@@ -49,7 +49,7 @@ TEST(MBRJsonForm, ReadsTheStandardBitSetText) {
 }
 
 TEST(MBRJsonForm, MalformedBitSetThrowsTheStandardError) {
-  Json::Value root = Parse(R"({"m_major": 12, "bit set": "0120"})");
+  Json::Value root = Parsed(R"({"m_major": 12, "bit set": "0120"})");
   FCMBRNetworkChannel channel;
   try {
     FCMBRNetworkChannel::JsonToMBRNetworkChannel(root, channel);
@@ -61,7 +61,7 @@ TEST(MBRJsonForm, MalformedBitSetThrowsTheStandardError) {
 }
 
 TEST(MBRJsonForm, MissingOrMistypedKeysReadAsZero) {
-  Json::Value root = Parse(R"({"m_major": "12", "m_name": 5, "m_bDigital": "yes"})");
+  Json::Value root = Parsed(R"({"m_major": "12", "m_name": 5, "m_bDigital": "yes"})");
   FCMBRNetworkChannel channel = EditedChannel();
   EXPECT_TRUE(FCMBRNetworkChannel::JsonToMBRNetworkChannel(root, channel));
   EXPECT_EQ(JsonOf(channel),
@@ -89,7 +89,7 @@ TEST(MBRJsonForm, ProgramKeysAndTypes) {
   EXPECT_EQ(written,
             "{\"m_channelID\":70,\"m_duration\":1800,\"m_programID\":\"p9\",\"m_startTime\":4000000000,"
             "\"m_title\":\"Title p9\"}");
-  root = Parse(written);
+  root = Parsed(written);
   EXPECT_TRUE(FCMBRNetworkProgram::JsonToMBRNetworkProgram(root, program));
   EXPECT_EQ(JsonOf(program), written);
 }
@@ -105,7 +105,7 @@ TEST(MBRJsonForm, ChannelTableIsAnArrayInListOrderAndReadingAppends) {
 
   FCMBRNetworkChannelTable table;
   table.AppendNetworkChannel(mbrsamples::Channel(1, 0, 1));
-  root = Parse(Compact(root));
+  root = Parsed(Compact(root));
   EXPECT_TRUE(FCMarshal::JsonToMBRNetworkChannelTable(root, table));
   std::vector<std::string> read;
   for (const auto& channel : table.GetNetworkChannelList()) read.push_back(JsonOf(channel));
@@ -126,7 +126,7 @@ TEST(MBRJsonForm, EmptyTablesWriteNoMemberAndNoMemberLeavesTheTables) {
   FCMBRNetworkProgram program = Program("p", 100);
   programs.AppendNetworkProgram(program);
   for (const char* text : {R"({"ret": true})", R"({"MBR channel table": {}, "mbrProgramTable": 3})"}) {
-    root = Parse(text);
+    root = Parsed(text);
     EXPECT_TRUE(FCMarshal::JsonToMBRNetworkChannelTable(root, channels));
     EXPECT_TRUE(FCMarshal::JsonToMBRProgramTable(root, programs));
   }
@@ -148,7 +148,7 @@ TEST(MBRJsonForm, ProgramTableCarriesItsKeyAsFirst) {
 }
 
 TEST(MBRJsonForm, ReadingAProgramTableLetsTheLaterEntryWin) {
-  Json::Value root = Parse(R"({"mbrProgramTable": [
+  Json::Value root = Parsed(R"({"mbrProgramTable": [
       {"first": 100, "m_programID": "one", "m_startTime": 100},
       {"first": 100, "m_programID": "two", "m_startTime": 100},
       {"first": 300, "m_programID": "three", "m_startTime": 250}]})");

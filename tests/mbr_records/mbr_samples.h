@@ -9,6 +9,7 @@
 #include <string>
 
 #include "MBRNetworkChannel.h"
+#include "json_text.h"
 
 namespace mbrsamples {
 
@@ -49,13 +50,8 @@ inline FCMBRNetworkProgram Program(std::string id, unsigned long start, int dura
   return program;
 }
 
-inline std::string Compact(const Json::Value& value) { return Json::FastWriter().write(value); }
-
-inline Json::Value Parse(const std::string& text) {
-  Json::Value root;
-  EXPECT_TRUE(Json::Reader().parse(text, root)) << text;
-  return root;
-}
+using zunde::testing::Compact;
+using zunde::testing::Parsed;
 
 // The record's own JSON object, without the writer's closing newline so
 // that it can be set inside a larger document.

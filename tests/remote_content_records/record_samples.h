@@ -10,17 +10,12 @@
 
 #include "FCElementData.h"
 #include "FCSmartChannelGuide.h"
+#include "json_text.h"
 
 namespace samples {
 
-// The text of a JSON value as it travels; ints and unsigned ints read alike.
-inline std::string Compact(const Json::Value& value) { return Json::FastWriter().write(value); }
-
-inline Json::Value Parsed(const std::string& text) {
-  Json::Value value;
-  Json::Reader().parse(text, value);
-  return value;
-}
+using zunde::testing::Compact;
+using zunde::testing::Parsed;
 
 template <class Record>
 Json::Value Written(Record record) {

@@ -17,7 +17,7 @@ namespace {
 // 2016-03-01T20:30:00Z
 constexpr unsigned int kMarch2016 = 1456864200U;
 
-using vcrecords::Parse;
+using vcrecords::Parsed;
 using vcrecords::Read;
 using vcrecords::Write;
 
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, FCVirtualProgramDataReading, ::testing::ValuesIn
 
 TEST(FCVirtualProgramDataJson, ReadingAppendsToThePlaylist) {
   FCVirtualProgramData program = SampleProgram();
-  Json::Value in = Parse("{\"group_play_list\":[{\"id\":\"a\"},{\"id\":\"b\"}]}");
+  Json::Value in = Parsed("{\"group_play_list\":[{\"id\":\"a\"},{\"id\":\"b\"}]}");
   FCVirtualProgramData::FromJson(in, program);
   ASSERT_EQ(3U, program.GetPlaylist().size());
   EXPECT_EQ("a", program.GetPlaylist()[1].GetItemId());
@@ -156,7 +156,7 @@ TEST(FCVirtualProgramDataJson, ParsedMetadataIsLoggedAsTheServiceParserDoes) {
 }
 
 TEST(FCVirtualProgramDataJson, UnknownNonEmptyMembersAreCarriedAsMetadataAndDescriptionsDropped) {
-  Json::Value in = Parse(
+  Json::Value in = Parsed(
       "{\"id\":\"e\",\"ret\":true,\"rating\":{\"age\":12},\"count\":0,\"note\":\"\",\"none\":null,\"list\":[],"
       "\"map\":{},\"tags\":[\"a\"],\"lang\":\"en\",\"mid_desc\":\"m\",\"desc\":\"d\",\"genres\":[\"g\"],"
       "\"video_quality\":\"hd\",\"schedule_type\":\"live\",\"trailer_url\":\"t\",\"website\":\"w\"}");
@@ -166,8 +166,8 @@ TEST(FCVirtualProgramDataJson, UnknownNonEmptyMembersAreCarriedAsMetadataAndDesc
   EXPECT_EQ(before, in);
   EXPECT_EQ("{\"count\":0,\"rating\":{\"age\":12},\"ret\":true,\"tags\":[\"a\"]}\n", program.metadata);
 
-  const Json::Value out = Parse(Write(program));
-  EXPECT_EQ(Parse("{\"age\":12}"), out["rating"]);
+  const Json::Value out = Parsed(Write(program));
+  EXPECT_EQ(Parsed("{\"age\":12}"), out["rating"]);
   EXPECT_FALSE(out.isMember("lang"));
 }
 

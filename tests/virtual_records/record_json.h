@@ -8,15 +8,12 @@
 
 #include <string>
 
+#include "json_text.h"
+
 namespace vcrecords {
 
-inline std::string Compact(const Json::Value& value) { return Json::FastWriter().write(value); }
-
-inline Json::Value Parse(const std::string& text) {
-  Json::Value value;
-  EXPECT_TRUE(Json::Reader().parse(text, value)) << text;
-  return value;
-}
+using zunde::testing::Compact;
+using zunde::testing::Parsed;
 
 template <typename Record>
 std::string Write(const Record& record) {
@@ -27,7 +24,7 @@ std::string Write(const Record& record) {
 
 template <typename Record>
 Record Read(const std::string& text) {
-  Json::Value in = Parse(text);
+  Json::Value in = Parsed(text);
   Record record;
   EXPECT_TRUE(Record::FromJson(in, record));
   return record;
@@ -35,8 +32,8 @@ Record Read(const std::string& text) {
 
 // `json` with the members of `changed` put over it.
 inline std::string Overlay(const std::string& json, const std::string& changed) {
-  Json::Value result = Parse(json);
-  const Json::Value members = Parse(changed);
+  Json::Value result = Parsed(json);
+  const Json::Value members = Parsed(changed);
   for (const std::string& key : members.getMemberNames()) result[key] = members[key];
   return Compact(result);
 }

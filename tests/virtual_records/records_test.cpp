@@ -188,7 +188,7 @@ TEST(FCMarshalVirtualChannels, ServiceIdIsDecimalTextAndAbsentReadsAsZero) {
   unsigned long long id = 1, absent = 5;
   EXPECT_TRUE(FCMarshal::VCJsonToServiceId(root, id));
   EXPECT_EQ(18446744073709551615ULL, id);
-  Json::Value other = vcrecords::Parse("{\"other\":1}");
+  Json::Value other = vcrecords::Parsed("{\"other\":1}");
   EXPECT_TRUE(FCMarshal::VCJsonToServiceId(other, absent));
   EXPECT_EQ(0ULL, absent);
   EXPECT_FALSE(other.isMember("TCServiceId"));

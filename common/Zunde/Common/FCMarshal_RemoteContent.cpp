@@ -4,7 +4,9 @@
 #include "FCMarshal.h"
 
 using zunde::catalogue::ReadArrayMember;
+using zunde::catalogue::ReadKeyedMap;
 using zunde::catalogue::WriteArrayMember;
+using zunde::catalogue::WriteKeyedMap;
 
 namespace {
 
@@ -30,28 +32,6 @@ void ReadList(Json::Value& root, const char* key, std::vector<Record>& records) 
     Record record;
     Record::FromJson(element, record);
     records.push_back(record);
-  });
-}
-
-// A map whose elements carry their key under `mapKeyKey`, beside the value's
-// own members as `writeValue` puts them. Reading keeps the first of equal
-// keys, as std::map::insert does.
-template <class Value, class WriteValue>
-void WriteKeyedMap(std::map<std::string, Value>& map, const char* key, const char* mapKeyKey, Json::Value& root,
-                   WriteValue writeValue) {
-  WriteArrayMember(root, key, map, [&](std::pair<const std::string, Value>& entry, Json::Value& element) {
-    writeValue(entry.second, element);
-    element[mapKeyKey] = entry.first;
-  });
-}
-
-template <class Value, class ReadValue>
-void ReadKeyedMap(Json::Value& root, const char* key, const char* mapKeyKey, std::map<std::string, Value>& map,
-                  ReadValue readValue) {
-  ReadArrayMember(root, key, [&](Json::Value& element) {
-    Value value;
-    readValue(element, value);
-    map.insert(std::make_pair(zunde::catalogue::Member(element, mapKeyKey).asString(), value));
   });
 }
 

@@ -1,6 +1,16 @@
-// The remote content environment's members. A missing member reads as null:
-// an empty string or 0.
+// The remote content environment's members. A missing member reads as an
+// empty string or 0, and is not added to the document read.
 #include "FCMarshal.h"
+#include "RecordJson_internal.h"
+
+namespace {
+
+template <class T>
+T Read(const Json::Value& root, const char* key) {
+  return zunde::recordjson::Read<zunde::recordjson::Strict, T>(root, key);
+}
+
+}  // namespace
 
 bool FCMarshal::CountryAndLangToJson(std::string const& country, std::string const& language, Json::Value& root) {
   root["country"] = country;
@@ -9,8 +19,8 @@ bool FCMarshal::CountryAndLangToJson(std::string const& country, std::string con
 }
 
 bool FCMarshal::JsonToCountryAndLang(Json::Value& root, std::string& country, std::string& language) {
-  country = root["country"].asString();
-  language = root["language"].asString();
+  country = Read<std::string>(root, "country");
+  language = Read<std::string>(root, "language");
   return true;
 }
 
@@ -20,7 +30,7 @@ bool FCMarshal::atokenToJson(std::string const& token, Json::Value& root) {
 }
 
 bool FCMarshal::JsonToatoken(Json::Value& root, std::string& token) {
-  token = root["atoken"].asString();
+  token = Read<std::string>(root, "atoken");
   return true;
 }
 
@@ -31,8 +41,8 @@ bool FCMarshal::TVSourceAndTVModeToJson(int& source, int& tvMode, Json::Value& r
 }
 
 bool FCMarshal::JsonToTVSourceAndTVMode(Json::Value& root, ESource& source, int& tvMode) {
-  source = static_cast<ESource>(root["in_source"].asInt());
-  tvMode = root["in_tvmode"].asInt();
+  source = static_cast<ESource>(Read<int>(root, "in_source"));
+  tvMode = Read<int>(root, "in_tvmode");
   return true;
 }
 
@@ -44,9 +54,9 @@ bool FCMarshal::TVSourceAndTVModeToJson(int& source, int& antennaMode, int& serv
 }
 
 bool FCMarshal::JsonToTVSourceAndTVMode(Json::Value& root, ESource& source, int& antennaMode, int& serviceMode) {
-  source = static_cast<ESource>(root["in_source"].asInt());
-  antennaMode = root["in_antennaMode"].asInt();
-  serviceMode = root["in_serviceMode"].asInt();
+  source = static_cast<ESource>(Read<int>(root, "in_source"));
+  antennaMode = Read<int>(root, "in_antennaMode");
+  serviceMode = Read<int>(root, "in_serviceMode");
   return true;
 }
 
@@ -56,7 +66,7 @@ bool FCMarshal::activityIDToJson(eRemoteContentActivity activity, Json::Value& r
 }
 
 bool FCMarshal::JsonToactivityID(Json::Value& root, eRemoteContentActivity& activity) {
-  activity = static_cast<eRemoteContentActivity>(root["activityID"].asInt());
+  activity = static_cast<eRemoteContentActivity>(Read<int>(root, "activityID"));
   return true;
 }
 
@@ -66,7 +76,7 @@ bool FCMarshal::RecommendTypeOptionToJson(eRecommendTypeOption option, Json::Val
 }
 
 bool FCMarshal::JsonToRecommendTypeOption(Json::Value& root, eRecommendTypeOption& option) {
-  option = static_cast<eRecommendTypeOption>(root["in_recommend_type"].asInt());
+  option = static_cast<eRecommendTypeOption>(Read<int>(root, "in_recommend_type"));
   return true;
 }
 
@@ -76,6 +86,6 @@ bool FCMarshal::UserIDToJson(std::string const& userId, Json::Value& root) {
 }
 
 bool FCMarshal::JsonToUserID(Json::Value& root, std::string& userId) {
-  userId = root["in_user_id"].asString();
+  userId = Read<std::string>(root, "in_user_id");
   return true;
 }

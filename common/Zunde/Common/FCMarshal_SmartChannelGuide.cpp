@@ -93,7 +93,7 @@ bool FCMarshal::UnmarshalingForGetRecommendationOnNow(Json::Value& root, eRemote
                                                       std::string& currentWatchingProgramSourceId,
                                                       unsigned long& utcCurrentTime, int& numberOfRecommendation,
                                                       FCFilterCriteria& filter) {
-  activity = static_cast<eRemoteContentActivity>(Member(root, "activityID").asInt());
+  JsonToactivityID(root, activity);
   currentWatchingProgramSourceId = Member(root, kCurrentWatchingKey).asString();
   utcCurrentTime = ReadTime(root);
   numberOfRecommendation = Member(root, kNumberKey).asInt();
@@ -114,7 +114,7 @@ bool FCMarshal::MarshalllingForGetRecommendationUpcoming(eRemoteContentActivity 
 bool FCMarshal::UnmarshalingForGetRecommendationUpcoming(Json::Value& root, eRemoteContentActivity& activity,
                                                          unsigned long& utcCurrentTime, int& numberOfRecommendation,
                                                          FCFilterCriteria& filter) {
-  activity = static_cast<eRemoteContentActivity>(Member(root, "activityID").asInt());
+  JsonToactivityID(root, activity);
   utcCurrentTime = ReadTime(root);
   numberOfRecommendation = Member(root, kNumberKey).asInt();
   ReadFilter(root, filter);
@@ -133,7 +133,7 @@ bool FCMarshal::MarshalingForGetRecommendationTimeline(eRemoteContentActivity ac
 bool FCMarshal::UnmarshalingForGetRecommendationTimeline(Json::Value& root, eRemoteContentActivity& activity,
                                                          unsigned long& utcCurrentTime, int& fromTimeslot,
                                                          int& toTimeslot) {
-  activity = static_cast<eRemoteContentActivity>(Member(root, "activityID").asInt());
+  JsonToactivityID(root, activity);
   utcCurrentTime = ReadTime(root);
   fromTimeslot = Member(root, kFromTimeslotKey).asInt();
   toTimeslot = Member(root, kToTimeslotKey).asInt();
@@ -150,7 +150,7 @@ bool FCMarshal::MarshalingForGetRecommendationFutureTimeline(eRemoteContentActiv
 
 bool FCMarshal::UnmarshalingForGetRecommendationFutureTimeline(Json::Value& root, eRemoteContentActivity& activity,
                                                                int& fromDayslot, int& toDayslot) {
-  activity = static_cast<eRemoteContentActivity>(Member(root, "activityID").asInt());
+  JsonToactivityID(root, activity);
   fromDayslot = Member(root, kFromDayslotKey).asInt();
   toDayslot = Member(root, kToDayslotKey).asInt();
   return true;

@@ -167,11 +167,11 @@ bool FCVirtualProgramId::ToJson(const FCVirtualProgramId& id, Json::Value& out) 
 }
 
 bool FCVirtualProgramId::FromJson(Json::Value& in, FCVirtualProgramId& out) {
-  const Json::Value& nest = vcjson::Member(in, "program_id");
+  const Json::Value& nest = vcjson::MemberOrNull(in, "program_id");
   out.m_serviceId = vcjson::ReadServiceId(nest);
   out.m_eventId = vcjson::String(nest, "event_id");
   out.m_duration = vcjson::UInt(nest, "duration");
-  out.m_startTime = StartTimeOfValue(vcjson::Member(nest, "start_time"));
+  out.m_startTime = StartTimeOfValue(vcjson::MemberOrNull(nest, "start_time"));
   return true;
 }
 
@@ -268,12 +268,12 @@ bool FCVirtualProgramData::ToJson(const FCVirtualProgramData& program, Json::Val
 }
 
 bool FCVirtualProgramData::FromJson(Json::Value& in, FCVirtualProgramData& out) {
-  out.m_serviceId = vcjson::ReadServiceId(vcjson::Member(in, kProgramDataKey));
+  out.m_serviceId = vcjson::ReadServiceId(vcjson::MemberOrNull(in, kProgramDataKey));
   vcjson::ReadFields(in, out, kProgramTexts, ReadText);
   vcjson::ReadFields(in, out, kProgramIndexes, ReadIndex);
   out.m_startTime = StartTimeOfText(vcjson::String(in, kStartTimeKey));
   vcjson::ReadFields(in, out, kProgramCounts, vcjson::LenientUInt);
-  AppendPlaylist(vcjson::Member(in, kPlaylistKey), out.m_playlist);
+  AppendPlaylist(vcjson::MemberOrNull(in, kPlaylistKey), out.m_playlist);
 
   Json::Value metadata(Json::objectValue);
   const std::set<std::string>& known = KnownProgramKeys();
@@ -308,7 +308,7 @@ bool FCVirtualChannelInfo::ToJson(const FCVirtualChannelInfo& info, Json::Value&
 bool FCVirtualChannelInfo::FromJson(Json::Value& in, FCVirtualChannelInfo& out) {
   out.m_major = vcjson::String(in, "major", "0");
   out.m_channelName = vcjson::String(in, "channel_name");
-  const Json::Value& logos = vcjson::Member(in, "logo_collection");
+  const Json::Value& logos = vcjson::MemberOrNull(in, "logo_collection");
   if (!logos.isArray()) return true;
   for (Json::ArrayIndex index = 0; index < logos.size(); ++index) {
     const Json::Value& logo = logos[index];

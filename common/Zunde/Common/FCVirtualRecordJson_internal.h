@@ -13,17 +13,14 @@
 #include <cstdlib>
 #include <string>
 
+#include "RecordJson_internal.h"
+
 namespace zunde {
 namespace vcjson {
 
 inline constexpr const char* kServiceIdKey = "TCServiceId";
 
-// The member `key` of `object`, or null when `object` is no object or lacks it.
-inline const Json::Value& Member(const Json::Value& object, const char* key) {
-  if (!object.isObject()) return Json::Value::nullSingleton();
-  const Json::Value* found = object.find(key, key + std::char_traits<char>::length(key));
-  return found != nullptr ? *found : Json::Value::nullSingleton();
-}
+using recordjson::MemberOrNull;
 
 inline bool Has(const Json::Value& object, const char* key) {
   return object.isObject() && object.isMember(key);
@@ -42,19 +39,19 @@ inline int AsInt(const Json::Value& value) {
 }
 
 inline std::string String(const Json::Value& object, const char* key, const char* absent = "") {
-  return Has(object, key) ? AsString(Member(object, key)) : std::string(absent);
+  return Has(object, key) ? AsString(MemberOrNull(object, key)) : std::string(absent);
 }
 
 inline int Int(const Json::Value& object, const char* key, int absent = 0) {
-  return Has(object, key) ? AsInt(Member(object, key)) : absent;
+  return Has(object, key) ? AsInt(MemberOrNull(object, key)) : absent;
 }
 
-inline unsigned int UInt(const Json::Value& object, const char* key) { return AsUInt(Member(object, key)); }
+inline unsigned int UInt(const Json::Value& object, const char* key) { return AsUInt(MemberOrNull(object, key)); }
 
 // Numbers the service may send as text: the text is read with base prefixes
 // ("0x10" is 16, "010" is 8).
 inline unsigned int LenientUInt(const Json::Value& object, const char* key) {
-  const Json::Value& value = Member(object, key);
+  const Json::Value& value = MemberOrNull(object, key);
   if (value.isString()) return static_cast<unsigned int>(std::strtoul(value.asCString(), nullptr, 0));
   return AsUInt(value);
 }
@@ -99,7 +96,7 @@ inline Json::Value& Slot(Json::Value& out, const char* group, const char* key) {
 }
 
 inline const Json::Value& Place(const Json::Value& in, const char* group) {
-  return group != nullptr ? Member(in, group) : in;
+  return group != nullptr ? MemberOrNull(in, group) : in;
 }
 
 template <typename Record, typename Get, typename Set, std::size_t N>

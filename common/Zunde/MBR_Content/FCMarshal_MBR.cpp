@@ -1,7 +1,10 @@
 // The set-top-box records and tables on the wire.
 #include "FCMarshal.h"
 
-#include "MBRRecordJson_internal.h"
+#include "RecordJson_internal.h"
+
+namespace recordjson = zunde::recordjson;
+using Lenient = recordjson::Lenient;
 
 namespace {
 
@@ -29,7 +32,7 @@ bool FCMarshal::JsonToMBRProgram(Json::Value& root, FCMBRNetworkProgram& program
 }
 
 bool FCMarshal::MBRNetworkChannelTableToJson(FCMBRNetworkChannelTable& table, Json::Value& root) {
-  zunde::mbrjson::WriteArrayMember(root, kChannelTableKey, table.m_mbrNetworkChannelDB,
+  recordjson::WriteArrayMember(root, kChannelTableKey, table.m_mbrNetworkChannelDB,
                                    [](FCMBRNetworkChannel& channel, Json::Value& element) {
                                      FCMBRNetworkChannel::MBRNetworkChannelToJson(channel, element);
                                    });
@@ -37,7 +40,7 @@ bool FCMarshal::MBRNetworkChannelTableToJson(FCMBRNetworkChannelTable& table, Js
 }
 
 bool FCMarshal::JsonToMBRNetworkChannelTable(Json::Value& root, FCMBRNetworkChannelTable& table) {
-  zunde::mbrjson::ReadArrayMember(root, kChannelTableKey, [&](Json::Value& element) {
+  recordjson::ReadArrayMember<Lenient>(root, kChannelTableKey, [&](Json::Value& element) {
     FCMBRNetworkChannel channel;
     FCMBRNetworkChannel::JsonToMBRNetworkChannel(element, channel);
     table.AppendNetworkChannel(channel);
@@ -46,20 +49,20 @@ bool FCMarshal::JsonToMBRNetworkChannelTable(Json::Value& root, FCMBRNetworkChan
 }
 
 bool FCMarshal::MBRProgramTableToJson(FCMBRNetworkProgramTable& table, Json::Value& root) {
-  zunde::mbrjson::WriteArrayMember(root, kProgramTableKey, table.m_mbrNetworkProgramDB,
+  recordjson::WriteArrayMember(root, kProgramTableKey, table.m_mbrNetworkProgramDB,
                                    [](std::pair<const unsigned long, FCMBRNetworkProgram>& entry, Json::Value& element) {
                                      FCMBRNetworkProgram::MBRNetworkProgramToJson(entry.second, element);
-                                     element[kProgramTableStartKey] = zunde::mbrjson::ToValue(entry.first);
+                                     Lenient::Write(element, kProgramTableStartKey, entry.first);
                                    });
   return true;
 }
 
 bool FCMarshal::JsonToMBRProgramTable(Json::Value& root, FCMBRNetworkProgramTable& table) {
-  zunde::mbrjson::ReadArrayMember(root, kProgramTableKey, [&](Json::Value& element) {
+  recordjson::ReadArrayMember<Lenient>(root, kProgramTableKey, [&](Json::Value& element) {
     FCMBRNetworkProgram program;
     FCMBRNetworkProgram::JsonToMBRNetworkProgram(element, program);
     // Unlike AppendNetworkProgram, the document's later entry wins.
-    table.m_mbrNetworkProgramDB[zunde::mbrjson::Read<unsigned long>(element, kProgramTableStartKey)] = program;
+    table.m_mbrNetworkProgramDB[recordjson::Read<Lenient, unsigned long>(element, kProgramTableStartKey)] = program;
   });
   return true;
 }

@@ -4,11 +4,18 @@
 #include <tuple>
 
 #include "FCDebug.h"
-#include "MBRRecordJson_internal.h"
+#include "RecordJson_internal.h"
 
-using zunde::mbrjson::MakeField;
+namespace recordjson = zunde::recordjson;
+using Lenient = recordjson::Lenient;
 
 namespace {
+
+// A missing or ill-typed key must not end the caller's process.
+template <class Record, class T>
+constexpr auto LenientField(const char* key, T Record::*member) {
+  return recordjson::MakeField<Lenient>(key, member);
+}
 
 const int kNoActivity = 6;
 const char kFavoriteBitSetKey[] = "bit set";
@@ -30,11 +37,11 @@ void AssertFavorite(int favorite, unsigned long line) {
 
 struct FCMBRNetworkProgram::JsonForm {
   static auto Fields() {
-    return std::make_tuple(MakeField("m_startTime", &FCMBRNetworkProgram::m_startTime),
-                           MakeField("m_duration", &FCMBRNetworkProgram::m_duration),
-                           MakeField("m_title", &FCMBRNetworkProgram::m_title),
-                           MakeField("m_channelID", &FCMBRNetworkProgram::m_channelID),
-                           MakeField("m_programID", &FCMBRNetworkProgram::m_programID));
+    return std::make_tuple(LenientField("m_startTime", &FCMBRNetworkProgram::m_startTime),
+                           LenientField("m_duration", &FCMBRNetworkProgram::m_duration),
+                           LenientField("m_title", &FCMBRNetworkProgram::m_title),
+                           LenientField("m_channelID", &FCMBRNetworkProgram::m_channelID),
+                           LenientField("m_programID", &FCMBRNetworkProgram::m_programID));
   }
 };
 
@@ -57,12 +64,12 @@ bool FCMBRNetworkProgram::operator==(const FCMBRNetworkProgram& other) const {
 }
 
 bool FCMBRNetworkProgram::MBRNetworkProgramToJson(FCMBRNetworkProgram& program, Json::Value& root) {
-  zunde::mbrjson::WriteFields(program, root, JsonForm::Fields());
+  recordjson::WriteFields(program, root, JsonForm::Fields());
   return true;
 }
 
 bool FCMBRNetworkProgram::JsonToMBRNetworkProgram(Json::Value& root, FCMBRNetworkProgram& program) {
-  zunde::mbrjson::ReadFields(root, program, JsonForm::Fields());
+  recordjson::ReadFields(root, program, JsonForm::Fields());
   return true;
 }
 
@@ -71,18 +78,18 @@ bool FCMBRNetworkProgram::JsonToMBRNetworkProgram(Json::Value& root, FCMBRNetwor
 // The favourite set is written and read after these, as "bit set".
 struct FCMBRNetworkChannel::JsonForm {
   static auto Fields() {
-    return std::make_tuple(MakeField("m_activityID", &FCMBRNetworkChannel::m_activityID),
-                           MakeField("m_acRank", &FCMBRNetworkChannel::m_acRank),
-                           MakeField("m_str_icon_url", &FCMBRNetworkChannel::m_str_icon_url),
-                           MakeField("m_str_url_index", &FCMBRNetworkChannel::m_str_url_index),
-                           MakeField("m_major", &FCMBRNetworkChannel::m_major),
-                           MakeField("m_originMajor", &FCMBRNetworkChannel::m_originMajor),
-                           MakeField("m_minor", &FCMBRNetworkChannel::m_minor),
-                           MakeField("m_name", &FCMBRNetworkChannel::m_name),
-                           MakeField("m_originName", &FCMBRNetworkChannel::m_originName),
-                           MakeField("m_channelID", &FCMBRNetworkChannel::m_channelID),
-                           MakeField("m_remembered", &FCMBRNetworkChannel::m_remembered),
-                           MakeField("m_bDigital", &FCMBRNetworkChannel::m_bDigital));
+    return std::make_tuple(LenientField("m_activityID", &FCMBRNetworkChannel::m_activityID),
+                           LenientField("m_acRank", &FCMBRNetworkChannel::m_acRank),
+                           LenientField("m_str_icon_url", &FCMBRNetworkChannel::m_str_icon_url),
+                           LenientField("m_str_url_index", &FCMBRNetworkChannel::m_str_url_index),
+                           LenientField("m_major", &FCMBRNetworkChannel::m_major),
+                           LenientField("m_originMajor", &FCMBRNetworkChannel::m_originMajor),
+                           LenientField("m_minor", &FCMBRNetworkChannel::m_minor),
+                           LenientField("m_name", &FCMBRNetworkChannel::m_name),
+                           LenientField("m_originName", &FCMBRNetworkChannel::m_originName),
+                           LenientField("m_channelID", &FCMBRNetworkChannel::m_channelID),
+                           LenientField("m_remembered", &FCMBRNetworkChannel::m_remembered),
+                           LenientField("m_bDigital", &FCMBRNetworkChannel::m_bDigital));
   }
 };
 
@@ -156,16 +163,16 @@ bool FCMBRNetworkChannel::operator==(const FCMBRNetworkChannel& other) const {
 }
 
 bool FCMBRNetworkChannel::MBRNetworkChannelToJson(FCMBRNetworkChannel& channel, Json::Value& root) {
-  zunde::mbrjson::WriteFields(channel, root, JsonForm::Fields());
+  recordjson::WriteFields(channel, root, JsonForm::Fields());
   root[kFavoriteBitSetKey] = channel.m_favoriteBitSet.to_string();
   return true;
 }
 
 bool FCMBRNetworkChannel::JsonToMBRNetworkChannel(Json::Value& root, FCMBRNetworkChannel& channel) {
-  zunde::mbrjson::ReadFields(root, channel, JsonForm::Fields());
+  recordjson::ReadFields(root, channel, JsonForm::Fields());
   // The standard parse: a character other than '0' or '1' among the first
   // five throws std::invalid_argument, which is the caller's to handle.
-  const std::string favorites = zunde::mbrjson::Read<std::string>(root, kFavoriteBitSetKey);
+  const std::string favorites = recordjson::Read<Lenient, std::string>(root, kFavoriteBitSetKey);
   channel.m_favoriteBitSet = std::bitset<MBR_NETWORKCHANNEL_FAVORITE_MAX>(favorites);
   return true;
 }
