@@ -9,7 +9,11 @@
 #include <cstdio>
 #include <cstring>
 
+#include "FCAtomic_internal.h"
 #include "FCDebug.h"
+
+using zunde::AtomicLoad;
+using zunde::AtomicStore;
 
 namespace {
 
@@ -30,17 +34,6 @@ bool SetKernelThreadPriority(int kernelThreadId, int priority) {
   int nice = 0;
   if (!NiceOfPriority(priority, &nice)) return false;
   return setpriority(PRIO_PROCESS, static_cast<id_t>(kernelThreadId), nice) == 0;
-}
-
-// The ids are written by the new thread and read by others; atomic access
-// keeps those reads well defined.
-template <typename T>
-T Load(const T* field) {
-  return __atomic_load_n(field, __ATOMIC_ACQUIRE);
-}
-template <typename T>
-void Store(T* field, T value) {
-  __atomic_store_n(field, value, __ATOMIC_RELEASE);
 }
 
 }  // namespace
@@ -64,7 +57,7 @@ bool FCThread::Create(const char* threadname, unsigned long stackSize) {
   pthread_attr_init(&attributes);
   pthread_attr_setdetachstate(&attributes, PTHREAD_CREATE_DETACHED);
   pthread_attr_setstacksize(&attributes, stackSize);  // a refused size keeps the default
-  Store(&m_kernelThreadId, kUnknownKernelId);
+  AtomicStore(&m_kernelThreadId, kUnknownKernelId);
 
   if (!m_pidSync.Create(0)) {
     m_startSync.Destroy();
@@ -76,7 +69,7 @@ bool FCThread::Create(const char* threadname, unsigned long stackSize) {
   pthread_t id;
   const int error = pthread_create(&id, &attributes, &FCThread::Entry, this);
   FCASSERT_MSG(error == 0, "TCThread not created: errno = %d\n", error);
-  Store(&m_threadId, id);
+  AtomicStore(&m_threadId, id);
 
   pthread_attr_destroy(&attributes);
   m_startSync.Give();
@@ -86,11 +79,11 @@ bool FCThread::Create(const char* threadname, unsigned long stackSize) {
 void* FCThread::Entry(void* self) {
   FCThread* thread = static_cast<FCThread*>(self);
   thread->m_startSync.Take();
-  Store(&thread->m_kernelThreadId, KernelThreadId());
+  AtomicStore(&thread->m_kernelThreadId, KernelThreadId());
   thread->m_pidSync.Give();
   if (thread->m_name[0] != '\0') prctl(PR_SET_NAME, thread->m_name, 0, 0, 0);
   thread->t_Main();
-  Store(&thread->m_threadId, kBodyReturned);
+  AtomicStore(&thread->m_threadId, kBodyReturned);
   thread->m_exitSync.Give();
   return nullptr;
 }
@@ -106,11 +99,11 @@ void FCThread::Destroy() {
 
 bool FCThread::SetPriority(int priority) {
   FCASSERT(FlagCreate() == true);
-  if (Load(&m_kernelThreadId) == kUnknownKernelId) m_pidSync.Take();
-  return SetKernelThreadPriority(Load(&m_kernelThreadId), priority);
+  if (AtomicLoad(&m_kernelThreadId) == kUnknownKernelId) m_pidSync.Take();
+  return SetKernelThreadPriority(AtomicLoad(&m_kernelThreadId), priority);
 }
 
-pthread_t FCThread::Id() const { return Load(&m_threadId); }
+pthread_t FCThread::Id() const { return AtomicLoad(&m_threadId); }
 
 pthread_t FCThreadSelf::Id() { return pthread_self(); }
 

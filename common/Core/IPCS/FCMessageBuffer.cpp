@@ -53,10 +53,7 @@ bool FCMessageBuffer::PushChar(char value) {
   return true;
 }
 
-bool FCMessageBuffer::PushInt(int value) {
-  InsertBytes(m_bufferData, m_bufferData.size(), &value, sizeof value);
-  return true;
-}
+bool FCMessageBuffer::PushInt(int value) { return PushConcatenated(sizeof value, &value); }
 
 bool FCMessageBuffer::PushConcatenated(unsigned long size, void* data) {
   if (size == 0) return true;
@@ -71,11 +68,7 @@ bool FCMessageBuffer::PushBuffer(FCMessageBuffer* other) {
 
 // The offset checks compare unsigned, so a negative offset (-1 meaning "the
 // end" to some callers) is refused rather than taken as the end.
-bool FCMessageBuffer::WriteInt(int value, int offset) {
-  FCASSERT((unsigned int)offset <= m_bufferData.size());
-  InsertBytes(m_bufferData, static_cast<unsigned int>(offset), &value, sizeof value);
-  return true;
-}
+bool FCMessageBuffer::WriteInt(int value, int offset) { return WriteConcatenated(sizeof value, &value, offset); }
 
 bool FCMessageBuffer::WriteConcatenated(unsigned long size, void* data, int offset) {
   if (size == 0) return true;
