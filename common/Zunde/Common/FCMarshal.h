@@ -90,6 +90,10 @@ class FCMarshal {
   static bool ProgramMapToJson(std::map<std::string, std::vector<FCRemoteProgram> >& programs, Json::Value& root);
   static bool JsonToProgramMap(Json::Value& root, std::map<std::string, std::vector<FCRemoteProgram> >& programs);
 
+  // --- operator remote content requests (FCMarshal_RemoteContentMSO.cpp) ---
+
+  // --- match finder (FCMarshal_MatchFinder.cpp) ---
+
   // --- smart channel guide and recommendations (FCMarshal_SmartChannelGuide.cpp) ---
   // The recommendation requests. Of the filter only "genre id list" and
   // "rec id" travel; the service sees no rep id. Reading leaves the
@@ -166,6 +170,10 @@ class FCMarshal {
   // already there.
   static bool MBRProgramTableToJson(FCMBRNetworkProgramTable& table, Json::Value& root);
   static bool JsonToMBRProgramTable(Json::Value& root, FCMBRNetworkProgramTable& table);
+
+  // --- set-top-box channel manager requests (FCMarshal_MBRManager.cpp) ---
+
+  // --- broadcast channels (FCMarshal_RFNetwork.cpp) ---
 
   // --- virtual channels (FCMarshal_VirtualChannels.cpp) ---
   // A service id as decimal text under "TCServiceId".
