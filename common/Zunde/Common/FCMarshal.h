@@ -93,6 +93,12 @@ class FCMarshal {
   // --- operator remote content requests (FCMarshal_RemoteContentMSO.cpp) ---
 
   // --- match finder (FCMarshal_MatchFinder.cpp) ---
+  // The id as decimal text under "TCServiceId". Writing consumes the id: the
+  // caller's variable is 0 afterwards, and a zero id writes no key at all.
+  static bool TCServiceIdToJson(unsigned long long& id, Json::Value& root);
+  // Reads "TCServiceId" digit by digit without checking the characters; an
+  // absent or empty text reads as 0.
+  static bool JsonToTCServiceId(Json::Value& root, unsigned long long& id);
 
   // --- smart channel guide and recommendations (FCMarshal_SmartChannelGuide.cpp) ---
   // The recommendation requests. Of the filter only "genre id list" and
