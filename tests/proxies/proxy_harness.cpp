@@ -11,17 +11,14 @@ namespace zunde::testing {
 
 ::testing::AssertionResult Logged(const ExpectedLine& expected) {
   LogRecord record;
-  if (!LogCapture::Find(" > " + expected.text, &record)) {
-    std::string lines;
-    for (const auto& line : LogCapture::Lines()) lines += "\n  " + line;
-    return ::testing::AssertionFailure() << "no line ending in \"" << expected.text << "\"; written:" << lines;
+  if (LogCapture::Find(" > " + expected.text, &record) && record.logId == expected.logId &&
+      record.priority == expected.priority) {
+    return ::testing::AssertionSuccess();
   }
-  if (record.logId != expected.logId || record.priority != expected.priority) {
-    return ::testing::AssertionFailure() << "\"" << expected.text << "\" went to log " << record.logId
-                                         << " at priority " << record.priority << ", not log " << expected.logId
-                                         << " at " << expected.priority;
-  }
-  return ::testing::AssertionSuccess();
+  auto failure = ::testing::AssertionFailure() << "no line " << expected.logId << "/" << expected.priority << " \""
+                                               << expected.text << "\" among:";
+  for (const auto& found : LogCapture::Records()) failure << "\n  " << found.logId << "/" << found.priority << " " << found.text;
+  return failure;
 }
 
 void StartService() { TestService::Start(); }
