@@ -1,97 +1,144 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "MBRNetworkChannel.h"
 #include "mbr_samples.h"
 
 namespace {
 
-using mbrsamples::Channel;
-using mbrsamples::JsonOf;
-using mbrsamples::Program;
+using namespace mbrsamples;
 
-using mbrsamples::kDefaultChannelJson;
+const std::string kDefaultChannelJson =
+    R"({"bit set":"00000","m_acRank":0,"m_activityID":6,"m_bDigital":true,"m_channelID":-1,"m_major":-1,)"
+    R"("m_minor":0,"m_name":"","m_originMajor":-1,"m_originName":"","m_remembered":false,)"
+    R"("m_str_icon_url":"","m_str_url_index":""})";
+const std::string kEditedChannelJson =
+    R"({"bit set":"00101","m_acRank":3,"m_activityID":2,"m_bDigital":false,"m_channelID":70,"m_major":17,)"
+    R"("m_minor":1,"m_name":"Movies+","m_originMajor":7,"m_originName":"Movies","m_remembered":true,)"
+    R"("m_str_icon_url":"http://icon/7","m_str_url_index":"7a"})";
 
-TEST(MBRNetworkChannel, DefaultsBelongToNoActivityAndInitializeRestoresThem) {
-  EXPECT_EQ(kDefaultChannelJson, JsonOf(FCMBRNetworkChannel()));
-  FCMBRNetworkChannel channel = mbrsamples::EditedChannel();
-  channel.m_Initialize();
-  EXPECT_EQ(kDefaultChannelJson, JsonOf(channel));
+// Every field away from its default; the box reported 7 "Movies", the user made it 17 "Movies+".
+FCMBRNetworkChannel EditedChannel() {
+  FCMBRNetworkChannel channel = Channel(17, 1, 70, "Movies+");
+  std::string originName = "Movies", icon = "http://icon/7", index = "7a";
+  channel.SetOriginMajor(7);
+  channel.SetOriginName(originName);
+  channel.SetIconUrl(icon);
+  channel.SetUrlIndex(index);
+  channel.SetActivityID(2);
+  channel.SetacRank(3);
+  channel.SetRemembered(true);
+  channel.SetDigitalFlag(false);
+  channel.SetFavorite(FCMBRNetworkChannel::eFavorite0, true);
+  channel.SetFavorite(FCMBRNetworkChannel::eFavorite2, true);
+  return channel;
 }
 
-TEST(MBRNetworkChannel, FavoritesSetAndClearSingleBits) {
+FCMBRNetworkChannel ReadChannel(Json::Value root) {
   FCMBRNetworkChannel channel;
-  EXPECT_TRUE(channel.SetFavorite(FCMBRNetworkChannel::eFavorite3, true));
+  FCMarshal::JsonToMBRNetworkChannel(root, channel);
+  return channel;
+}
+
+// A request as the proxy builds it: a scalar key, a channel's keys flat beside it, and both tables.
+const std::string kDocumentJson =
+    R"({"MBR channel table":[)" + kEditedChannelJson + "," + kDefaultChannelJson + R"(],"activityID":2,)" +
+    kEditedChannelJson.substr(1, kEditedChannelJson.size() - 2) +
+    R"(,"mbrProgramTable":[{"first":100,"m_channelID":70,"m_duration":1800,"m_programID":"early",)"
+    R"("m_startTime":100,"m_title":"Title early"},{"first":4294967295,"m_channelID":-1,"m_duration":-1,)"
+    R"("m_programID":"","m_startTime":4294967295,"m_title":""}]})"
+    "\n";
+
+std::string Write(FCMBRNetworkChannel channel, FCMBRNetworkChannelTable channels, FCMBRNetworkProgramTable programs) {
+  Json::Value root;
+  root["activityID"] = 2;
+  FCMarshal::MBRNetworkChannelToJson(channel, root);
+  FCMarshal::MBRNetworkChannelTableToJson(channels, root);
+  FCMarshal::MBRProgramTableToJson(programs, root);
+  return Compact(root);
+}
+
+TEST(MBRJsonForm, WritesEveryKeyAndReadsItBack) {
+  FCMBRNetworkChannelTable channels, readChannels;
+  channels.AppendNetworkChannel(EditedChannel());
+  channels.AppendNetworkChannel(FCMBRNetworkChannel());
+  FCMBRNetworkProgramTable programs, readPrograms;
+  FCMBRNetworkProgram fresh, early = Program("early", 100);
+  programs.AppendNetworkProgram(fresh);
+  programs.AppendNetworkProgram(early);
+  EXPECT_EQ(Write(EditedChannel(), channels, programs), kDocumentJson);
+
+  // Reading appends to the tables; a document without a table's member leaves it as it was.
+  for (const char* text : {kDocumentJson.c_str(), R"({"ret": true})"}) {
+    Json::Value root = Parsed(text);
+    EXPECT_TRUE(FCMarshal::JsonToMBRNetworkChannelTable(root, readChannels));
+    EXPECT_TRUE(FCMarshal::JsonToMBRProgramTable(root, readPrograms));
+  }
+  Json::Value root = Parsed(kDocumentJson);
+  EXPECT_EQ(Write(ReadChannel(root), readChannels, readPrograms), kDocumentJson);
+  FCMarshal::JsonToMBRNetworkChannelTable(root, readChannels);
+  EXPECT_EQ(readChannels.GetNetworkChannelList().size(), 4U);
+  EXPECT_EQ(Write(FCMBRNetworkChannel(), FCMBRNetworkChannelTable(), FCMBRNetworkProgramTable()),
+            R"({"activityID":2,)" + kDefaultChannelJson.substr(1) + "\n") << "defaults, and empty tables write no member";
+}
+
+TEST(MBRJsonForm, ReadsTheStandardBitSetText) {
+  // The favourites as the bit set writes them: the last character is list 0, and at most five count.
+  const std::pair<const char*, const char*> cases[] = {
+      {"01001", "01001"}, {"1", "00001"}, {"1111111", "11111"}, {"10000x", "10000"}, {"", "00000"}};
+  for (const auto& [text, favorites] : cases) {
+    EXPECT_EQ(ReadChannel(Parsed(R"({"bit set":")" + std::string(text) + "\"}")).GetFavoriteBitSet().to_string(),
+              favorites);
+  }
+  try {
+    ReadChannel(Parsed(R"({"bit set": "0120"})"));
+    ADD_FAILURE() << "no exception";
+  } catch (const std::invalid_argument& error) {
+    EXPECT_STREQ(error.what(), "bitset::_M_copy_from_ptr");
+  }
+}
+
+TEST(MBRNetworkChannelDeathTest, FavoritesAreFiveSingleBits) {
+  FCMBRNetworkChannel channel;
+  channel.SetFavorite(FCMBRNetworkChannel::eFavorite3, true);
   EXPECT_TRUE(channel.SetFavorite(FCMBRNetworkChannel::eFavorite0, true));
   EXPECT_EQ(channel.GetFavoriteBitSet().to_string(), "01001");
-  EXPECT_TRUE(channel.GetFavorite(FCMBRNetworkChannel::eFavorite3));
-  EXPECT_FALSE(channel.GetFavorite(FCMBRNetworkChannel::eFavorite1));
   EXPECT_TRUE(channel.SetFavorite(FCMBRNetworkChannel::eFavorite3, false));
-  EXPECT_TRUE(channel.SetFavorite(FCMBRNetworkChannel::eFavorite4, true));
+  channel.SetFavorite(FCMBRNetworkChannel::eFavorite4, true);
   EXPECT_EQ(channel.GetFavoriteBitSet().to_string(), "10001");
-  EXPECT_TRUE(channel.GetFavorite(FCMBRNetworkChannel::eFavorite4));
-}
-
-TEST(MBRNetworkChannelDeathTest, FavoriteBeyondTheLastListEndsTheProcess) {
-  FCMBRNetworkChannel channel;
+  EXPECT_TRUE(channel.GetFavorite(FCMBRNetworkChannel::eFavorite4) && !channel.GetFavorite(FCMBRNetworkChannel::eFavorite3));
   EXPECT_DEATH(channel.SetFavorite(static_cast<FCMBRNetworkChannel::EFavorite>(5), true), "");
   EXPECT_DEATH(channel.GetFavorite(static_cast<FCMBRNetworkChannel::EFavorite>(5)), "");
 }
 
 TEST(MBRNetworkChannel, RestoreUndoesMajorAndNameOnly) {
-  FCMBRNetworkChannel channel = mbrsamples::EditedChannel();  // shows 17 "Movies+", was 7 "Movies"
+  FCMBRNetworkChannel channel = EditedChannel();
   channel.SetMinor(9);
   EXPECT_TRUE(channel.Restore());
-  EXPECT_EQ(channel.GetMajor(), 7);
-  EXPECT_EQ(channel.GetName(), "Movies");
-  EXPECT_EQ(channel.GetMinor(), 9);
-  EXPECT_EQ(channel.GetChannelID(), 70);
+  Json::Value expected = Parsed(kEditedChannelJson);
+  expected["m_major"] = 7;
+  expected["m_name"] = "Movies";
+  expected["m_minor"] = 9;
+  EXPECT_EQ(JsonOf(channel) + "\n", Compact(expected));
 }
 
 TEST(MBRNetworkChannel, EqualitySeesOnlyTheIdentityFields) {
-  using Change = void (*)(FCMBRNetworkChannel&);
-  const std::pair<bool, Change> cases[] = {
-      // still equal after the change, the change
-      {true, [](FCMBRNetworkChannel& c) { c.SetacRank(3); }},
-      {true, [](FCMBRNetworkChannel& c) { c.SetRemembered(true); }},
-      {true, [](FCMBRNetworkChannel& c) { c.SetActivityID(2); }},
-      {true,
-       [](FCMBRNetworkChannel& c) {
-         std::string s = "u";
-         c.SetIconUrl(s);
-       }},
-      {true,
-       [](FCMBRNetworkChannel& c) {
-         std::string s = "i";
-         c.SetUrlIndex(s);
-       }},
-      {false, [](FCMBRNetworkChannel& c) { c.SetMajor(6); }},
-      {false, [](FCMBRNetworkChannel& c) { c.SetOriginMajor(6); }},
-      {false, [](FCMBRNetworkChannel& c) { c.SetMinor(2); }},
-      {false,
-       [](FCMBRNetworkChannel& c) {
-         std::string s = "namf";
-         c.SetName(s);
-       }},
-      {false,
-       [](FCMBRNetworkChannel& c) {
-         std::string s = "o";
-         c.SetOriginName(s);
-       }},
-      {false,
-       [](FCMBRNetworkChannel& c) {
-         int id = 31;
-         c.SetChannelID(id);
-       }},
-      {false, [](FCMBRNetworkChannel& c) { c.SetFavorite(FCMBRNetworkChannel::eFavorite1, true); }},
-      {false, [](FCMBRNetworkChannel& c) { c.SetDigitalFlag(false); }}};
-  const FCMBRNetworkChannel base = Channel(5, 1, 30, "name");
-  for (const auto& [stillEqual, change] : cases) {
-    FCMBRNetworkChannel other = base;
-    change(other);
-    EXPECT_EQ(base == other, stillEqual) << JsonOf(other);
+  // One key of the JSON form changed, and whether the channel still equals the original.
+  const struct {
+    const char* key;
+    Json::Value value;
+    bool equal;
+  } cases[] = {{"m_acRank", 9, true},      {"m_remembered", false, true}, {"m_activityID", 4, true},
+               {"m_str_icon_url", "u", true}, {"m_str_url_index", "i", true}, {"m_major", 6, false},
+               {"m_originMajor", 6, false}, {"m_minor", 2, false},         {"m_name", "Movies-", false},
+               {"m_originName", "M", false}, {"m_channelID", 71, false},    {"bit set", "00111", false},
+               {"m_bDigital", true, false}};
+  for (const auto& c : cases) {
+    Json::Value root = Parsed(kEditedChannelJson);
+    root[c.key] = c.value;
+    EXPECT_EQ(EditedChannel() == ReadChannel(root), c.equal) << c.key;
   }
 }
 
@@ -99,37 +146,31 @@ TEST(MBRNetworkChannel, ConvertEndianSwapsUnitsAndTerminates) {
   const struct {
     std::vector<unsigned char> src;
     int length;
-    std::vector<unsigned char> expected;  // the bytes of dst that are written
-    int converted;
-  } cases[] = {{{'A', 0, 'B', 0}, 4, {0, 'A', 0, 'B', 0, 0}, 4},
-               {{'A', 0, 0, 0, 'B', 0}, 6, {0, 'A', 0, 0}, 2},    // stops at a zero unit
-               {{0, 'A', 'B', 0}, 4, {'A', 0, 0, 'B', 0, 0}, 4},  // a zero high byte is no stop
-               {{1, 2, 3, 4}, 3, {2, 1, 4, 3, 0, 0}, 4},          // an odd length takes the whole unit
-               {{1, 2, 3, 4, 5, 6}, 2, {2, 1, 0, 0}, 2},
-               {{1, 2}, 0, {0, 0}, 0},
-               {{1, 2}, -4, {0, 0}, 0}};
+    std::vector<unsigned char> written;  // the bytes of dst written, the last two the terminator
+  } cases[] = {{{'A', 0, 'B', 0}, 4, {0, 'A', 0, 'B', 0, 0}}, {{'A', 0, 0, 0, 'B', 0}, 6, {0, 'A', 0, 0}},
+               {{0, 'A', 'B', 0}, 4, {'A', 0, 0, 'B', 0, 0}}, {{1, 2, 3, 4, 5, 6}, 3, {2, 1, 4, 3, 0, 0}},
+               {{1, 2}, 0, {0, 0}},                           {{1, 2}, -4, {0, 0}}};
   FCMBRNetworkChannel channel;
   for (const auto& c : cases) {
-    std::vector<unsigned char> src = c.src, dst(16, 0xEE), expected = c.expected;
+    std::vector<unsigned char> src = c.src, dst(16, 0xEE), expected = c.written;
     src.resize(16, 0xAA);
     expected.resize(16, 0xEE);
-    EXPECT_EQ(channel.m_ConvertEndian(dst.data(), src.data(), c.length), c.converted);
-    // Without either buffer nothing is written.
-    EXPECT_EQ(channel.m_ConvertEndian(nullptr, src.data(), c.length), 1);
-    EXPECT_EQ(channel.m_ConvertEndian(dst.data(), nullptr, c.length), 1);
+    EXPECT_EQ(channel.m_ConvertEndian(dst.data(), src.data(), c.length), static_cast<int>(c.written.size()) - 2);
     EXPECT_EQ(dst, expected) << "length " << c.length;
   }
+  std::vector<unsigned char> bytes(4, 0xEE);
+  EXPECT_EQ(channel.m_ConvertEndian(nullptr, bytes.data(), 4) + channel.m_ConvertEndian(bytes.data(), nullptr, 4), 2);
+  EXPECT_EQ(bytes, std::vector<unsigned char>(4, 0xEE));
 }
 
 TEST(MBRNetworkProgram, IdentityIsTheProgramIdAlone) {
-  FCMBRNetworkProgram film = Program("p1", 900, 60);
-  std::string title = "film";
-  film.SetTitle(title);
-  film.SetChannelID(3);
-  EXPECT_EQ(Program("p1", 100), film);
+  FCMBRNetworkProgram other = Program("p1", 900, 60);
+  std::string title = "other";
+  other.SetTitle(title);
+  other.SetChannelID(3);
+  EXPECT_EQ(Program("p1", 100), other);
   EXPECT_FALSE(Program("p1", 100) == Program("p2", 100));
-  EXPECT_TRUE(Program("ab", 900) < Program("abc", 100));
-  EXPECT_TRUE(Program("Z", 0) < Program("a", 0));
+  EXPECT_TRUE(Program("ab", 900) < Program("abc", 100) && Program("Z", 0) < Program("a", 0));
   EXPECT_FALSE(Program("p1", 100) < Program("p1", 900));
 }
 

@@ -1,17 +1,19 @@
-// Channels and programmes for the set-top-box record tests, and their JSON
-// forms as compact text (key order and number forms included).
+// Channels and programmes for the set-top-box record tests, compared by the
+// compact text of their JSON forms (key names and number forms at once).
 #ifndef ZUNDE_TESTS_MBR_SAMPLES_H
 #define ZUNDE_TESTS_MBR_SAMPLES_H
 
-#include <gtest/gtest.h>
-#include <json/json.h>
-
 #include <string>
+#include <type_traits>
 
-#include "MBRNetworkChannel.h"
+#include "FCMarshal.h"
+#include "MBRNetworkChannelTable.h"
 #include "json_text.h"
 
 namespace mbrsamples {
+
+using zunde::testing::Compact;
+using zunde::testing::Parsed;
 
 inline FCMBRNetworkChannel Channel(int major, int minor, int channelId, std::string name = "") {
   FCMBRNetworkChannel channel;
@@ -19,23 +21,6 @@ inline FCMBRNetworkChannel Channel(int major, int minor, int channelId, std::str
   channel.SetMinor(minor);
   channel.SetChannelID(channelId);
   channel.SetName(name);
-  return channel;
-}
-
-// Every field away from its default, the shown major and name edited.
-inline FCMBRNetworkChannel EditedChannel() {
-  FCMBRNetworkChannel channel = Channel(17, 1, 70, "Movies+");
-  std::string originName = "Movies", icon = "http://icon/7", index = "7a";
-  channel.SetActivityID(2);
-  channel.SetacRank(3);
-  channel.SetIconUrl(icon);
-  channel.SetUrlIndex(index);
-  channel.SetOriginMajor(7);
-  channel.SetOriginName(originName);
-  channel.SetRemembered(true);
-  channel.SetDigitalFlag(false);
-  channel.SetFavorite(FCMBRNetworkChannel::eFavorite0, true);
-  channel.SetFavorite(FCMBRNetworkChannel::eFavorite2, true);
   return channel;
 }
 
@@ -50,35 +35,18 @@ inline FCMBRNetworkProgram Program(std::string id, unsigned long start, int dura
   return program;
 }
 
-using zunde::testing::Compact;
-using zunde::testing::Parsed;
-
-// The record's own JSON object, without the writer's closing newline so
-// that it can be set inside a larger document.
-inline std::string JsonOf(FCMBRNetworkChannel channel) {
+// The record's JSON object as compact text, without the writer's newline.
+template <typename Record>
+std::string JsonOf(Record record) {
   Json::Value root;
-  EXPECT_TRUE(FCMBRNetworkChannel::MBRNetworkChannelToJson(channel, root));
+  if constexpr (std::is_same_v<Record, FCMBRNetworkChannel>) {
+    FCMarshal::MBRNetworkChannelToJson(record, root);
+  } else {
+    FCMarshal::MBRProgramToJson(record, root);
+  }
   const std::string text = Compact(root);
   return text.substr(0, text.size() - 1);
 }
-
-inline std::string JsonOf(FCMBRNetworkProgram program) {
-  Json::Value root;
-  EXPECT_TRUE(FCMBRNetworkProgram::MBRNetworkProgramToJson(program, root));
-  const std::string text = Compact(root);
-  return text.substr(0, text.size() - 1);
-}
-
-// The form shows every field, also those that equality leaves out.
-inline const char kDefaultChannelJson[] =
-    "{\"bit set\":\"00000\",\"m_acRank\":0,\"m_activityID\":6,\"m_bDigital\":true,\"m_channelID\":-1,\"m_major\":-1,"
-    "\"m_minor\":0,\"m_name\":\"\",\"m_originMajor\":-1,\"m_originName\":\"\",\"m_remembered\":false,"
-    "\"m_str_icon_url\":\"\",\"m_str_url_index\":\"\"}";
-
-inline const char kEditedChannelJson[] =
-    "{\"bit set\":\"00101\",\"m_acRank\":3,\"m_activityID\":2,\"m_bDigital\":false,\"m_channelID\":70,\"m_major\":17,"
-    "\"m_minor\":1,\"m_name\":\"Movies+\",\"m_originMajor\":7,\"m_originName\":\"Movies\",\"m_remembered\":true,"
-    "\"m_str_icon_url\":\"http://icon/7\",\"m_str_url_index\":\"7a\"}";
 
 }  // namespace mbrsamples
 
