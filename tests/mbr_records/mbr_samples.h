@@ -1,10 +1,9 @@
-// Channels and programmes for the set-top-box record tests, compared by the
-// compact text of their JSON forms (key names and number forms at once).
+// Channels and programmes for the set-top-box record tests; channels are
+// compared by the compact text of their JSON form.
 #ifndef ZUNDE_TESTS_MBR_SAMPLES_H
 #define ZUNDE_TESTS_MBR_SAMPLES_H
 
 #include <string>
-#include <type_traits>
 
 #include "FCMarshal.h"
 #include "MBRNetworkChannelTable.h"
@@ -26,24 +25,16 @@ inline FCMBRNetworkChannel Channel(int major, int minor, int channelId, std::str
 
 inline FCMBRNetworkProgram Program(std::string id, unsigned long start, int duration = 1800) {
   FCMBRNetworkProgram program;
-  std::string title = "Title " + id;
   program.SetProgramID(id);
-  program.SetTitle(title);
   program.SetStartTime(start);
   program.SetDuration(duration);
-  program.SetChannelID(70);
   return program;
 }
 
-// The record's JSON object as compact text, without the writer's newline.
-template <typename Record>
-std::string JsonOf(Record record) {
+// The channel's JSON object as compact text, without the writer's newline.
+inline std::string JsonOf(FCMBRNetworkChannel channel) {
   Json::Value root;
-  if constexpr (std::is_same_v<Record, FCMBRNetworkChannel>) {
-    FCMarshal::MBRNetworkChannelToJson(record, root);
-  } else {
-    FCMarshal::MBRProgramToJson(record, root);
-  }
+  FCMarshal::MBRNetworkChannelToJson(channel, root);
   const std::string text = Compact(root);
   return text.substr(0, text.size() - 1);
 }

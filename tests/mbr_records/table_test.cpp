@@ -43,26 +43,20 @@ TEST(MBRNetworkChannelTable, LookUpsCopyTheFirstMatchOrLeaveTheOutputAlone) {
   EXPECT_TRUE(table.FindNetworkChannelByChannelIDOriginMajor(40, 7, out) && out.GetName() == "edited");
   out = Channel(99, 99, 99, "sentinel");
   EXPECT_FALSE(Table({edited}).FindNetworkChannelbyMajorMinor(7, 1, out));  // the origin major is not the shown one
-  EXPECT_FALSE(table.FindNetworkChannelbyChannelID(43, out));
-  EXPECT_FALSE(table.FindNetworkChannelByChannelIDOriginMajor(40, 12, out));
+  EXPECT_FALSE(table.FindNetworkChannelbyChannelID(43, out) || table.FindNetworkChannelByChannelIDOriginMajor(40, 12, out));
   EXPECT_EQ(JsonOf(out), JsonOf(Channel(99, 99, 99, "sentinel")));
 }
 
 TEST(MBRNetworkChannelTable, MaxTakesEachMaximumSeparatelyFromZero) {
-  const struct {
-    std::vector<std::pair<int, int>> majorMinor;
-    bool result;
-    std::pair<int, int> max;
-  } cases[] = {{{{7, 1}, {3, 9}}, true, {7, 9}},
-               {{{-1, 4}, {-1, 2}}, true, {0, 4}},
-               {{{-1, -5}, {-3, -1}}, true, {0, 0}},
-               {{}, false, {0, 0}}};
-  for (const auto& c : cases) {
+  // The channels' majors and minors, and the answer as "result major minor".
+  const std::pair<std::vector<std::pair<int, int>>, const char*> cases[] = {
+      {{{7, 1}, {3, 9}}, "1 7 9"}, {{{-1, 4}, {-1, 2}}, "1 0 4"}, {{{-1, -5}, {-3, -1}}, "1 0 0"}, {{}, "0 0 0"}};
+  for (const auto& [channels, expected] : cases) {
     FCMBRNetworkChannelTable table;
-    for (const auto& [major, minor] : c.majorMinor) table.AppendNetworkChannel(Channel(major, minor, 1));
-    std::pair<int, int> max = {-7, -7};
-    EXPECT_EQ(table.GetMaxNumberOfMajorMinor(max.first, max.second), c.result);
-    EXPECT_EQ(max, c.max);
+    for (const auto& [major, minor] : channels) table.AppendNetworkChannel(Channel(major, minor, 1));
+    int maxMajor = -7, maxMinor = -7;
+    const bool result = table.GetMaxNumberOfMajorMinor(maxMajor, maxMinor);
+    EXPECT_EQ(std::to_string(result) + " " + std::to_string(maxMajor) + " " + std::to_string(maxMinor), expected);
   }
   LogRecord record;
   ASSERT_TRUE(LogCapture::Find("MBRNetworkChannelTable: GetMaxNumberOfMajorMinor(100) > [16][2]FCMBRNetworkChannelDB::"
