@@ -136,7 +136,8 @@ TEST(MBRNetworkChannelDeathTest, FavoritesAreFiveSingleBits) {
   EXPECT_TRUE(channel.SetFavorite(FCMBRNetworkChannel::eFavorite3, false));
   channel.SetFavorite(FCMBRNetworkChannel::eFavorite4, true);
   EXPECT_EQ(channel.GetFavoriteBitSet().to_string(), "10001");
-  EXPECT_TRUE(channel.GetFavorite(FCMBRNetworkChannel::eFavorite4) && !channel.GetFavorite(FCMBRNetworkChannel::eFavorite3));
+  EXPECT_TRUE(channel.GetFavorite(FCMBRNetworkChannel::eFavorite4));
+  EXPECT_FALSE(channel.GetFavorite(FCMBRNetworkChannel::eFavorite3));
   EXPECT_DEATH(channel.SetFavorite(static_cast<FCMBRNetworkChannel::EFavorite>(5), true), "");
   EXPECT_DEATH(channel.GetFavorite(static_cast<FCMBRNetworkChannel::EFavorite>(5)), "");
 }
@@ -198,8 +199,9 @@ TEST(MBRNetworkProgram, IdentityIsTheProgramIdAlone) {
 }
 
 TEST(MBRNetworkChannelTable, SortOrdersByKeysKeepingTiesAndMergeAppends) {
-  FCMBRNetworkChannelTable table = Table({Channel(5, 2, 9, "5.2#9"), Channel(5, 1, 3, "first"), Channel(3, 8, 1, "3.8#1"),
-                                          Channel(5, 1, 3, "second"), Channel(5, 1, 4, "5.1#4"), Channel(-1, 9, 9, "-1")});
+  FCMBRNetworkChannelTable table = Table({Channel(5, 2, 9, "5.2#9"), Channel(5, 1, 3, "first"),
+                                          Channel(3, 8, 1, "3.8#1"), Channel(5, 1, 3, "second"),
+                                          Channel(5, 1, 4, "5.1#4"), Channel(-1, 9, 9, "-1")});
   table.Sort();
   EXPECT_EQ(Names(table), "-1 3.8#1 first second 5.1#4 5.2#9 ");
   EXPECT_TRUE(table.Merge(Table({Channel(5, 1, 3, "first")})) && table.Merge(FCMBRNetworkChannelTable()));
@@ -215,7 +217,8 @@ TEST(MBRNetworkChannelTable, LookUpsCopyTheFirstMatchOrLeaveTheOutputAlone) {
   EXPECT_TRUE(table.FindNetworkChannelbyChannelID(42, out) && out.GetName() == "later");
   EXPECT_TRUE(table.FindNetworkChannelByChannelIDOriginMajor(40, 7, out) && out.GetName() == "edited");
   EXPECT_FALSE(Table({edited}).FindNetworkChannelbyMajorMinor(7, 1, out));  // the origin major is not the shown one
-  EXPECT_FALSE(table.FindNetworkChannelbyChannelID(43, out) || table.FindNetworkChannelByChannelIDOriginMajor(40, 12, out));
+  EXPECT_FALSE(table.FindNetworkChannelbyChannelID(43, out));
+  EXPECT_FALSE(table.FindNetworkChannelByChannelIDOriginMajor(40, 12, out));
   EXPECT_EQ(out.GetName(), "edited") << "no match leaves the output alone";
 }
 
@@ -265,7 +268,8 @@ TEST(MBRNetworkProgramTable, AppendAndMergeKeepWhatIsThereReadingReplacesIt) {
   other.AppendNetworkProgram(earlier);
   EXPECT_TRUE(table.Merge(other));
   Json::Value root = Parsed(R"({"mbrProgramTable": [{"first": 300, "m_programID": "one", "m_startTime": 250},
-      {"first": 300, "m_programID": "two", "m_startTime": 250}, {"first": 50, "m_programID": "new", "m_startTime": 50}]})");
+      {"first": 300, "m_programID": "two", "m_startTime": 250},
+      {"first": 50, "m_programID": "new", "m_startTime": 50}]})");
   FCMarshal::JsonToMBRProgramTable(root, table);
   std::string read;
   for (const auto& [start, program] : table.GetNetworkProgramMap()) {

@@ -39,7 +39,8 @@ TEST_F(ConnectionCall, BytesTravelExactlyBothWays) {
     EXPECT_EQ(CallWith(payload, reply), 7);
     EXPECT_EQ(std::string(reply.GetAsCStr(0), reply.GetFullBufferSize()), ">abc");
     const auto call = TestService::TakeOnlyCall();
-    EXPECT_EQ(std::tie(call.member, call.length, call.payload), std::make_tuple("Member", int(payload.size()), payload));
+    EXPECT_EQ(std::tie(call.member, call.length, call.payload),
+              std::make_tuple("Member", int(payload.size()), payload));
   }
 }
 

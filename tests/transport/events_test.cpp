@@ -96,7 +96,8 @@ TEST_F(Events, DataSignalsGoToTheDataCallbackOrAreDropped) {
   TestService::Emit("Data", "3", "dropped", self);
   DispatchUntil(0);
   FIIPCConnection::GetInstance()->SetDataCallbackFunction([](int id, FCMessageBuffer& payload) {
-    received.push_back("data " + std::to_string(id) + ":" + std::string(payload.GetAsCStr(0), payload.GetFullBufferSize()));
+    received.push_back("data " + std::to_string(id) + ":" +
+                       std::string(payload.GetAsCStr(0), payload.GetFullBufferSize()));
   });
   TestService::Emit("Data", "3", "kept", self);
   DispatchUntil(1);

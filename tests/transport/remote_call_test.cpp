@@ -36,13 +36,7 @@ bool ReadName(Json::Value& root, std::string& name) {
 // A typed method as a proxy writes it; its lines name the function.
 bool GetName(std::string& out) { return RemoteCall(kLines, "GetName").Reads(ReadName, out).Run(); }
 
-class RemoteCallTest : public zunde::testing::ServiceTest {
- protected:
-  void SetUp() override {
-    ServiceTest::SetUp();
-    LogCapture::Clear();
-  }
-};
+using RemoteCallTest = zunde::testing::ServiceTest;
 
 TEST_F(RemoteCallTest, ResultIsRetAndOutputsFillWheneverTheReplyParses) {
   const std::tuple<const char*, int, bool, const char*> cases[] = {
@@ -58,6 +52,7 @@ TEST_F(RemoteCallTest, ResultIsRetAndOutputsFillWheneverTheReplyParses) {
 }
 
 TEST_F(RemoteCallTest, FailedCheckSendsNothingAndLeavesOutputs) {
+  LogCapture::Clear();
   std::string out = "untouched";
   EXPECT_FALSE(RemoteCall(kLines, "GetName").Require(false).Entry().Reads(ReadName, out).Run());
   EXPECT_EQ(out, "untouched");
