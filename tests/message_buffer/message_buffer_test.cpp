@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"ResizeAddsZeros", "abcde", 0, [](B& b) { return b.Resize(3); }, Z("abcde\0\0\0", 8)},
         Case{"WriteIntInTheMiddle", "abcd", 0, [](B& b) { return b.WriteInt(0x01020304, 2); }, "ab\4\3\2\1cd"},
         Case{"WriteIntAtTheSizeAppends", "abcd", 0, [](B& b) { return b.WriteInt(-1, 4); }, "abcd\xff\xff\xff\xff"},
-        Case{"WriteNullAddsZeros", "abcd", 0, [](B& b) { return b.WriteConcatenated(2, nullptr, 2); }, Z("ab\0\0cd", 6)},
+        Case{"WriteNullIsZeros", "abcd", 0, [](B& b) { return b.WriteConcatenated(2, nullptr, 2); }, Z("ab\0\0cd", 6)},
         Case{"WriteZeroSizeChecksNoOffset", "abcd", 0, [](B& b) { return b.WriteConcatenated(0, kXyz, 9); }, "abcd"},
         Case{"WriteOwnBytes", "abcd", 0, [](B& b) { return b.WriteConcatenated(2, Own(b, 0), 1); }, "aabbcd"},
         Case{"CleanThenPopChar", "abcd", 2, [](B& b) { return b.Clean() && b.PopChar() == 0; }, "", kNoChar},
