@@ -8,72 +8,44 @@
 
 namespace {
 
-using ::testing::internal::CaptureStderr;
-using ::testing::internal::GetCapturedStderr;
-
-std::string LoggedWith(const char* setting, int priority, const char* text = "tuner locked") {
-  if (setting == nullptr) {
-    unsetenv("ZUNDE_LOG");
-  } else {
-    setenv("ZUNDE_LOG", setting, 1);
-  }
-  CaptureStderr();
-  __dlog_print(LOG_ID_MAIN, priority, "zunde-provider", "%s", text);
-  std::string written = GetCapturedStderr();
-  unsetenv("ZUNDE_LOG");
-  return written;
-}
-
-struct FilterCase {
+struct LogCase {
   const char* name;
   const char* setting;  // null: unset
   int priority;
-  bool written;
+  const char* format;
+  std::string written;
 };
 
-class HostLogFilter : public ::testing::TestWithParam<FilterCase> {};
+class HostLog : public ::testing::TestWithParam<LogCase> {};
 
-TEST_P(HostLogFilter, WritesOnlyWhatTheSettingLetsThrough) {
-  const auto& c = GetParam();
-  EXPECT_EQ(!LoggedWith(c.setting, c.priority).empty(), c.written);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Settings, HostLogFilter,
-    ::testing::Values(FilterCase{"UnsetKeepsWarningsQuiet", nullptr, DLOG_WARN, false},
-                      FilterCase{"UnsetShowsErrors", nullptr, DLOG_ERROR, true},
-                      FilterCase{"OffSilencesErrors", "off", DLOG_ERROR, false},
-                      FilterCase{"OffSilencesFatal", "off", DLOG_FATAL, false},
-                      FilterCase{"WarnShowsWarnings", "warn", DLOG_WARN, true},
-                      FilterCase{"WarnHidesInformation", "warn", DLOG_INFO, false},
-                      FilterCase{"InfoShowsInformation", "info", DLOG_INFO, true},
-                      FilterCase{"InfoHidesDebug", "info", DLOG_DEBUG, false},
-                      FilterCase{"DebugShowsVerbose", "debug", DLOG_VERBOSE, true},
-                      FilterCase{"UnknownSettingActsAsError", "chatty", DLOG_WARN, false},
-                      FilterCase{"SilentPriorityIsNeverWritten", "debug", DLOG_SILENT, false}),
-    [](const ::testing::TestParamInfo<FilterCase>& info) { return std::string(info.param.name); });
-
-TEST(HostLog, LineCarriesThePriorityLetterAndTheTag) {
-  EXPECT_EQ(LoggedWith("debug", DLOG_WARN), "W/zunde-provider: tuner locked\n");
-  EXPECT_EQ(LoggedWith("debug", DLOG_INFO), "I/zunde-provider: tuner locked\n");
-  EXPECT_EQ(LoggedWith("debug", DLOG_ERROR), "E/zunde-provider: tuner locked\n");
-}
-
-TEST(HostLog, OneLinePerCallWhateverTheMessageHolds) {
-  EXPECT_EQ(LoggedWith("debug", DLOG_WARN, "first\nsecond\n\n"), "W/zunde-provider: first second\n");
-}
-
-TEST(HostLog, LongMessagesAreWrittenWhole) {
-  const std::string longText(5000, 'x');
-  EXPECT_EQ(LoggedWith("debug", DLOG_WARN, longText.c_str()), "W/zunde-provider: " + longText + "\n");
-}
-
-TEST(HostLog, NullFormatIsIgnored) {
-  setenv("ZUNDE_LOG", "debug", 1);
-  CaptureStderr();
-  EXPECT_EQ(__dlog_print(LOG_ID_MAIN, DLOG_ERROR, "zunde-provider", nullptr), 0);
-  EXPECT_EQ(GetCapturedStderr(), "");
+TEST_P(HostLog, WritesWhatTheSettingLetsThroughOnOneLine) {
+  const LogCase& c = GetParam();
+  c.setting ? setenv("ZUNDE_LOG", c.setting, 1) : unsetenv("ZUNDE_LOG");
+  ::testing::internal::CaptureStderr();
+  __dlog_print(LOG_ID_MAIN, c.priority, "zunde-provider", c.format);
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), c.written);
   unsetenv("ZUNDE_LOG");
 }
+
+const char kText[] = "tuner locked";
+const std::string kLong(5000, 'x');  // beyond the first formatting buffer
+const std::string kLongLine = "W/zunde-provider: " + kLong + "\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    Settings, HostLog,
+    ::testing::Values(LogCase{"UnsetKeepsWarningsQuiet", nullptr, DLOG_WARN, kText, ""},
+                      LogCase{"UnsetShowsErrors", nullptr, DLOG_ERROR, kText, "E/zunde-provider: tuner locked\n"},
+                      LogCase{"OffSilencesFatal", "off", DLOG_FATAL, kText, ""},
+                      LogCase{"WarnShowsWarnings", "warn", DLOG_WARN, kText, "W/zunde-provider: tuner locked\n"},
+                      LogCase{"WarnHidesInformation", "warn", DLOG_INFO, kText, ""},
+                      LogCase{"InfoShowsInformation", "info", DLOG_INFO, kText, "I/zunde-provider: tuner locked\n"},
+                      LogCase{"InfoHidesDebug", "info", DLOG_DEBUG, kText, ""},
+                      LogCase{"DebugShowsVerbose", "debug", DLOG_VERBOSE, kText, "V/zunde-provider: tuner locked\n"},
+                      LogCase{"UnknownSettingActsAsError", "chatty", DLOG_WARN, kText, ""},
+                      LogCase{"SilentPriorityIsNeverWritten", "debug", DLOG_SILENT, kText, ""},
+                      LogCase{"NewlinesBecomeOneLine", "debug", DLOG_WARN, "a\nb\n\n", "W/zunde-provider: a b\n"},
+                      LogCase{"LongMessageIsWrittenWhole", "debug", DLOG_WARN, kLong.c_str(), kLongLine},
+                      LogCase{"NullFormatIsIgnored", "debug", DLOG_ERROR, nullptr, ""}),
+    [](const ::testing::TestParamInfo<LogCase>& info) { return std::string(info.param.name); });
 
 }  // namespace

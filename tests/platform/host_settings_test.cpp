@@ -11,107 +11,65 @@
 
 namespace {
 
-// A key=value file in the temporary directory, named by `variable` while
-// the object lives.
-class KeyValueFile {
- public:
-  KeyValueFile(const char* variable, const std::string& contents) : m_variable(variable) {
-    char path[] = "/tmp/zunde-platform-XXXXXX";
-    const int fd = mkstemp(path);
-    m_path = path;
-    FILE* file = fdopen(fd, "w");
-    std::fputs(contents.c_str(), file);
-    std::fclose(file);
-    setenv(m_variable, m_path.c_str(), 1);
-  }
-  ~KeyValueFile() {
-    unsetenv(m_variable);
-    std::remove(m_path.c_str());
-  }
-
- private:
-  const char* m_variable;
-  std::string m_path;
-};
-
 const char kDisclaimer[] = "db/menu/corvina/homedatacontrol/defaultdisclaimeragree";
 
-struct SettingCase {
-  const char* name;
-  const char* contents;
-  int result;
-  int value;  // when read
-};
-
-class HostSetting : public ::testing::TestWithParam<SettingCase> {};
-
-TEST_P(HostSetting, ReadsTheIntegerOrFails) {
-  KeyValueFile file("ZUNDE_VCONF_FILE", GetParam().contents);
+// The result and the value (as it was before when the read fails).
+std::string ReadSetting() {
   int value = -7;
-  EXPECT_EQ(vconf_get_int(kDisclaimer, &value), GetParam().result);
-  EXPECT_EQ(value, GetParam().result == 0 ? GetParam().value : -7);  // untouched on failure
+  const int result = vconf_get_int(kDisclaimer, &value);
+  return std::to_string(result) + " " + std::to_string(value);
+}
+std::string ReadCapability() {
+  bool value = true;
+  const int result = system_info_get_value_bool(SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT, &value);
+  return std::to_string(result) + (value ? " true" : " false");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Files, HostSetting,
-    ::testing::Values(
-        SettingCase{"Plain", "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=1\n", 0, 1},
-        SettingCase{"BlanksAndComments", "# settings\n\n  db/menu/corvina/homedatacontrol/defaultdisclaimeragree = 42 \n", 0,
-                    42},
-        SettingCase{"LastLineWins",
-                    "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=1\n"
-                    "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=0\n",
-                    0, 0},
-        SettingCase{"Negative", "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=-3", 0, -3},
-        SettingCase{"MissingKey", "db/menu/other=1\n", -1, 0},
-        SettingCase{"NotANumber", "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=yes\n", -1, 0},
-        SettingCase{"EmptyValue", "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=\n", -1, 0},
-        SettingCase{"TooLarge", "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=99999999999\n", -1, 0}),
-    [](const ::testing::TestParamInfo<SettingCase>& info) { return std::string(info.param.name); });
-
-TEST(HostSetting, NoFileIsAFailure) {
-  unsetenv("ZUNDE_VCONF_FILE");
-  int value = 0;
-  EXPECT_EQ(vconf_get_int(kDisclaimer, &value), -1);
-  setenv("ZUNDE_VCONF_FILE", "/nonexistent/zunde-settings", 1);
-  EXPECT_EQ(vconf_get_int(kDisclaimer, &value), -1);
-  unsetenv("ZUNDE_VCONF_FILE");
-  EXPECT_EQ(vconf_get_int(nullptr, &value), -1);
-}
-
-struct CapabilityCase {
+struct FileCase {
   const char* name;
-  const char* contents;
-  int result;
-  bool value;
+  std::string (*read)();
+  std::string contents;
+  const char* expected;
 };
 
-class HostCapability : public ::testing::TestWithParam<CapabilityCase> {};
+class HostKeyValueFile : public ::testing::TestWithParam<FileCase> {};
 
-TEST_P(HostCapability, ReadsTheBooleanOrFails) {
-  KeyValueFile file("ZUNDE_SYSTEM_INFO_FILE", GetParam().contents);
-  bool value = false;
-  EXPECT_EQ(system_info_get_value_bool(SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT, &value), GetParam().result);
-  if (GetParam().result == SYSTEM_INFO_ERROR_NONE) {
-    EXPECT_EQ(value, GetParam().value);
-  }
+TEST_P(HostKeyValueFile, ReadsTheValueOrFails) {
+  const FileCase& c = GetParam();
+  const char* variable = c.read == ReadSetting ? "ZUNDE_VCONF_FILE" : "ZUNDE_SYSTEM_INFO_FILE";
+  char path[] = "/tmp/zunde-platform-XXXXXX";
+  FILE* file = fdopen(mkstemp(path), "w");
+  std::fputs(c.contents.c_str(), file);
+  std::fclose(file);
+  setenv(variable, path, 1);
+  EXPECT_EQ(c.read(), c.expected);
+  unsetenv(variable);
+  std::remove(path);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Files, HostCapability,
-    ::testing::Values(CapabilityCase{"True", "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=true\n", 0, true},
-                      CapabilityCase{"One", "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=1\n", 0, true},
-                      CapabilityCase{"False", "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=false\n", 0, false},
-                      CapabilityCase{"Zero", "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=0\n", 0, false},
-                      CapabilityCase{"Missing", "OTHER=true\n", SYSTEM_INFO_ERROR_IO_ERROR, false},
-                      CapabilityCase{"NotABoolean", "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=maybe\n",
-                                     SYSTEM_INFO_ERROR_IO_ERROR, false}),
-    [](const ::testing::TestParamInfo<CapabilityCase>& info) { return std::string(info.param.name); });
+const std::string kKey = std::string(kDisclaimer) + "=";
+const std::string kCapability = "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=";
 
-TEST(HostCapability, NoFileOrNoOutputIsAFailure) {
-  unsetenv("ZUNDE_SYSTEM_INFO_FILE");
-  bool value = false;
-  EXPECT_EQ(system_info_get_value_bool(SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT, &value), SYSTEM_INFO_ERROR_IO_ERROR);
+INSTANTIATE_TEST_SUITE_P(
+    Files, HostKeyValueFile,
+    ::testing::Values(FileCase{"SettingAmidBlanksAndComments", ReadSetting, "# a\n\n  " + kKey + " 42 \n", "0 42"},
+                      FileCase{"SettingLastLineWins", ReadSetting, kKey + "1\n" + kKey + "0\n", "0 0"},
+                      FileCase{"SettingNegative", ReadSetting, kKey + "-3", "0 -3"},
+                      FileCase{"SettingMissingKey", ReadSetting, "db/menu/other=1\n", "-1 -7"},
+                      FileCase{"SettingNotANumber", ReadSetting, kKey + "yes\n", "-1 -7"},
+                      FileCase{"SettingTooLarge", ReadSetting, kKey + "99999999999\n", "-1 -7"},
+                      FileCase{"CapabilityTrue", ReadCapability, kCapability + "true\n", "0 true"},
+                      FileCase{"CapabilityOne", ReadCapability, kCapability + "1\n", "0 true"},
+                      FileCase{"CapabilityFalse", ReadCapability, kCapability + "false\n", "0 false"},
+                      FileCase{"CapabilityZero", ReadCapability, kCapability + "0\n", "0 false"},
+                      FileCase{"CapabilityNotABoolean", ReadCapability, kCapability + "maybe\n", "-5 true"}),
+    [](const ::testing::TestParamInfo<FileCase>& info) { return std::string(info.param.name); });
+
+TEST(HostKeyValueFile, NoFileVariableOrNullArgumentsFail) {
+  EXPECT_EQ(ReadSetting(), "-1 -7");
+  EXPECT_EQ(ReadCapability(), "-5 true");
+  int value = 0;
+  EXPECT_EQ(vconf_get_int(nullptr, &value), -1);
   EXPECT_EQ(system_info_get_value_bool(SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT, nullptr),
             SYSTEM_INFO_ERROR_INVALID_PARAMETER);
 }
