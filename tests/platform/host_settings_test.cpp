@@ -8,12 +8,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace {
 
 const char kDisclaimer[] = "db/menu/corvina/homedatacontrol/defaultdisclaimeragree";
 
-// The result and the value (as it was before when the read fails).
+// The result and the value, which starts as -7 or true so that a failed read
+// shows it untouched.
 std::string ReadSetting() {
   int value = -7;
   const int result = vconf_get_int(kDisclaimer, &value);
@@ -25,47 +27,44 @@ std::string ReadCapability() {
   return std::to_string(result) + (value ? " true" : " false");
 }
 
-struct FileCase {
-  const char* name;
-  std::string (*read)();
-  std::string contents;
-  const char* expected;
-};
-
-class HostKeyValueFile : public ::testing::TestWithParam<FileCase> {};
-
-TEST_P(HostKeyValueFile, ReadsTheValueOrFails) {
-  const FileCase& c = GetParam();
-  const char* variable = c.read == ReadSetting ? "ZUNDE_VCONF_FILE" : "ZUNDE_SYSTEM_INFO_FILE";
+// `read` with `contents` in a temporary file named by `variable`.
+std::string ReadFrom(const char* variable, const std::string& contents, std::string (*read)()) {
   char path[] = "/tmp/zunde-platform-XXXXXX";
   FILE* file = fdopen(mkstemp(path), "w");
-  std::fputs(c.contents.c_str(), file);
+  std::fputs(contents.c_str(), file);
   std::fclose(file);
   setenv(variable, path, 1);
-  EXPECT_EQ(c.read(), c.expected);
+  const std::string result = read();
   unsetenv(variable);
   std::remove(path);
+  return result;
 }
 
-const std::string kKey = std::string(kDisclaimer) + "=";
-const std::string kCapability = "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=";
+using Cases = std::pair<std::string, const char*>[];
 
-INSTANTIATE_TEST_SUITE_P(
-    Files, HostKeyValueFile,
-    ::testing::Values(FileCase{"SettingAmidBlanksAndComments", ReadSetting, "# a\n\n  " + kKey + " 42 \n", "0 42"},
-                      FileCase{"SettingLastLineWins", ReadSetting, kKey + "1\n" + kKey + "0\n", "0 0"},
-                      FileCase{"SettingNegative", ReadSetting, kKey + "-3", "0 -3"},
-                      FileCase{"SettingMissingKey", ReadSetting, "db/menu/other=1\n", "-1 -7"},
-                      FileCase{"SettingNotANumber", ReadSetting, kKey + "yes\n", "-1 -7"},
-                      FileCase{"SettingTooLarge", ReadSetting, kKey + "99999999999\n", "-1 -7"},
-                      FileCase{"CapabilityTrue", ReadCapability, kCapability + "true\n", "0 true"},
-                      FileCase{"CapabilityOne", ReadCapability, kCapability + "1\n", "0 true"},
-                      FileCase{"CapabilityFalse", ReadCapability, kCapability + "false\n", "0 false"},
-                      FileCase{"CapabilityZero", ReadCapability, kCapability + "0\n", "0 false"},
-                      FileCase{"CapabilityNotABoolean", ReadCapability, kCapability + "maybe\n", "-5 true"}),
-    [](const ::testing::TestParamInfo<FileCase>& info) { return std::string(info.param.name); });
+TEST(HostSetting, ReadsTheLastIntegerOfTheKeyOrFails) {
+  const std::string key = std::string(kDisclaimer) + "=";
+  for (const auto& c : Cases{{"# a\n\n  " + key + " 42 \n", "0 42"},
+                             {key + "1\n" + key + "-3\n", "0 -3"},
+                             {"db/menu/other=1\n", "-1 -7"},
+                             {key + "yes\n", "-1 -7"},
+                             {key + "99999999999\n", "-1 -7"}}) {
+    EXPECT_EQ(ReadFrom("ZUNDE_VCONF_FILE", c.first, ReadSetting), c.second) << c.first;
+  }
+}
 
-TEST(HostKeyValueFile, NoFileVariableOrNullArgumentsFail) {
+TEST(HostCapability, ReadsTheBooleanOrFails) {
+  const std::string key = "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=";
+  for (const auto& c : Cases{{key + "true\n", "0 true"},
+                             {key + "1\n", "0 true"},
+                             {key + "false\n", "0 false"},
+                             {key + "0\n", "0 false"},
+                             {key + "maybe\n", "-5 true"}}) {
+    EXPECT_EQ(ReadFrom("ZUNDE_SYSTEM_INFO_FILE", c.first, ReadCapability), c.second) << c.first;
+  }
+}
+
+TEST(HostSetting, NoFileOrNullArgumentsFail) {
   EXPECT_EQ(ReadSetting(), "-1 -7");
   EXPECT_EQ(ReadCapability(), "-5 true");
   int value = 0;
