@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <chrono>
 #include <functional>
+#include <future>
 #include <thread>
 
 #include "FCThread.h"
@@ -67,17 +67,13 @@ TEST(Mutex, OwnerLocksAgainAndOnlyTheOwnerUnlocks) {
   mutex.Lock();
   mutex.Unlock();
   std::thread([&] { mutex.Unlock(); }).join();
-  std::atomic<bool> acquired{false};
-  std::thread other([&] {
+  auto other = std::async(std::launch::async, [&] {
     mutex.Lock();
-    acquired = true;
     mutex.Unlock();
   });
-  std::this_thread::sleep_for(std::chrono::milliseconds(50));
-  EXPECT_FALSE(acquired);
+  EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
   mutex.Unlock();
-  other.join();
-  EXPECT_TRUE(acquired);
+  other.get();
   mutex.Destroy();
 }
 

@@ -58,13 +58,8 @@ TEST(Thread, LowPriorityReachesTheNewThreadAndUnknownOnesAreRefused) {
 }
 
 TEST(ThreadDeathTest, DestroyFromItsOwnBodyEndsTheProcess) {
-  EXPECT_DEATH(
-      {
-        BodyThread thread([](BodyThread& self) { self.Destroy(); });
-        thread.Create("self", 0);
-        pause();
-      },
-      "");
+  BodyThread thread([](BodyThread& self) { self.Destroy(); });
+  EXPECT_DEATH(thread.Create("self", 0) && pause(), "");  // pause: wait for the body
 }
 
 }  // namespace
