@@ -9,48 +9,38 @@
 
 namespace {
 
-// A semaphore made for one test and destroyed with it.
-class CountedSemaphore {
- public:
-  explicit CountedSemaphore(int count) { EXPECT_TRUE(semaphore.Create(count)); }
-  ~CountedSemaphore() { semaphore.Destroy(); }
-  FCSemaphore semaphore;
-};
-
 void OnFourThreads(const std::function<void()>& body) {
   std::thread threads[4];
   for (auto& thread : threads) thread = std::thread(body);
   for (auto& thread : threads) thread.join();
 }
 
-TEST(Semaphore, TryWithoutAUnitGivesUpAtOnceOrAfterItsTime) {
-  CountedSemaphore counted(1);
-  EXPECT_TRUE(counted.semaphore.Try(0));
-  EXPECT_FALSE(counted.semaphore.Try(0));
-  EXPECT_FALSE(counted.semaphore.Try(20));
-  counted.semaphore.Give();
-  EXPECT_TRUE(counted.semaphore.Try(0));
-}
-
 // All ones is for ever: Try then waits like Take.
-TEST(Semaphore, TryWithATimeOutOrForeverTakesAUnitGivenMeanwhile) {
+TEST(Semaphore, TryTakesAUnitAtOnceWithinItsTimeOrForever) {
+  FCSemaphore semaphore;
+  ASSERT_TRUE(semaphore.Create(1));
+  EXPECT_TRUE(semaphore.Try(0));
+  EXPECT_FALSE(semaphore.Try(0));
+  EXPECT_FALSE(semaphore.Try(20));
   for (unsigned long ms : {60 * 1000UL, 0xFFFFFFFFUL}) {
-    CountedSemaphore counted(0);
-    std::thread giver([&] { counted.semaphore.Give(); });
-    EXPECT_TRUE(counted.semaphore.Try(ms)) << ms;
+    std::thread giver([&] { semaphore.Give(); });
+    EXPECT_TRUE(semaphore.Try(ms)) << ms;
     giver.join();
-    EXPECT_FALSE(counted.semaphore.Try(0));
   }
+  EXPECT_FALSE(semaphore.Try(0));
+  semaphore.Destroy();
 }
 
 // Every Take waits for a Give of some thread; a lost count would hang one.
 TEST(Semaphore, CountsEveryGiveAndTakeOfConcurrentThreads) {
-  CountedSemaphore counted(0);
+  FCSemaphore semaphore;
+  ASSERT_TRUE(semaphore.Create(0));
   OnFourThreads([&] {
-    for (int i = 0; i < 250; ++i) counted.semaphore.Give();
-    for (int i = 0; i < 250; ++i) counted.semaphore.Take();
+    for (int i = 0; i < 250; ++i) semaphore.Give();
+    for (int i = 0; i < 250; ++i) semaphore.Take();
   });
-  EXPECT_FALSE(counted.semaphore.Try(0));
+  EXPECT_FALSE(semaphore.Try(0));
+  semaphore.Destroy();
 }
 
 TEST(SemaphoreDeathTest, CreatingTwiceOrDestructingWithoutDestroyEndsTheProcess) {
@@ -59,8 +49,8 @@ TEST(SemaphoreDeathTest, CreatingTwiceOrDestructingWithoutDestroyEndsTheProcess)
 }
 
 // Locked twice and unlocked once, and unlocked by a thread that does not own
-// it: the mutex is still held, and another thread waits for the last Unlock.
-TEST(Mutex, OwnerLocksAgainAndOnlyTheOwnerUnlocks) {
+// it, the mutex is still held: another thread waits for the last Unlock.
+TEST(Mutex, OwnerLocksAgainOnlyTheOwnerUnlocksAndConcurrentThreadsTakeTurns) {
   FCMutex mutex;
   ASSERT_TRUE(mutex.Create());
   mutex.Lock();
@@ -74,12 +64,7 @@ TEST(Mutex, OwnerLocksAgainAndOnlyTheOwnerUnlocks) {
   EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
   mutex.Unlock();
   other.get();
-  mutex.Destroy();
-}
 
-TEST(Mutex, KeepsACounterConsistentAcrossConcurrentThreads) {
-  FCMutex mutex;
-  ASSERT_TRUE(mutex.Create());
   int counter = 0;
   OnFourThreads([&] {
     for (int i = 0; i < 500; ++i) {

@@ -13,15 +13,10 @@
 namespace {
 
 // A thread that runs a given body.
-class BodyThread : public FCThread {
- public:
-  explicit BodyThread(std::function<void(BodyThread&)> body) : m_body(std::move(body)) {}
-
- protected:
-  void t_Main() override { m_body(*this); }
-
- private:
-  std::function<void(BodyThread&)> m_body;
+struct BodyThread : FCThread {
+  explicit BodyThread(std::function<void(BodyThread&)> run) : body(std::move(run)) {}
+  void t_Main() override { body(*this); }
+  std::function<void(BodyThread&)> body;
 };
 
 TEST(Thread, RunsItsBodyUnderItsCutNameAndDestroyWaitsForIt) {

@@ -1,17 +1,15 @@
-// The runtime's leaf services: clocks, error numbers, the debug printer and
-// the assertion handler.
+// The runtime's leaf services: clocks, the debug printer and the assertion
+// handler.
 #include <gtest/gtest.h>
 
 #include <sys/time.h>
 #include <sys/times.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdlib>
 #include <string>
 
 #include "FCDebug.h"
-#include "FCError.h"
 #include "FCTimeWapper.h"
 #include "log_capture.h"
 
@@ -57,14 +55,6 @@ TEST(Clock, SleepReturnsZeroAfterTheWholeTime) {
   const unsigned long before = FCTimeWrapper::Tick();
   EXPECT_EQ(FCTimeWrapper::Sleep(1020), 0);
   EXPECT_GE(FCTimeWrapper::Tick() - before, 1010u);  // less at most one tick
-}
-
-// The error number is the calling thread's errno.
-TEST(Errors, NumberLivesInErrno) {
-  FCError::Set(FCError::ERROR_UNKNOWN);
-  EXPECT_EQ(errno, 30000);
-  errno = 0;
-  EXPECT_EQ(FCError::Num(), 0);
 }
 
 // Lines start with a process-wide counter: read the first back.
