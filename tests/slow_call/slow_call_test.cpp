@@ -1,9 +1,10 @@
 // A remote call still waiting after ZUNDE_SLOW_CALL_MS logs one warning
 // naming its member; unset, a slow call changes nothing.
-#include <dirent.h>
+#include <dlog.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <regex>
 #include <string>
 
@@ -17,26 +18,22 @@ using zunde::testing::LogCapture;
 using zunde::testing::ServiceTest;
 using zunde::testing::TestService;
 
-const std::regex kSlowLine(R"(\[FCSyncDet::Report\] GetPersonalUserID still running after (\d+) ms\n$)");
+long ThreadsOfProcess() { return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}); }
 
-int ThreadsOfProcess() {
-  int threads = 0;
-  DIR* tasks = opendir("/proc/self/task");
-  while (readdir(tasks) != nullptr) ++threads;
-  closedir(tasks);
-  return threads;
-}
-
-// The slow-line waits of one slow GetPersonalUserID call (the service answers after 500 ms).
-std::vector<unsigned long> SlowLinesOfASlowCall() {
+// The waits that the warnings of one slow call name (the service answers
+// GetPersonalUserID after 500 ms).
+std::vector<unsigned long> WarningsOfASlowCall() {
   TestService::Reply("GetPersonalUserID", R"({"ret": true, "in_user_id": "u"})", 0, -1, 500);
   std::string user;
   LogCapture::Clear();
   EXPECT_TRUE(FCRemoteContentOnTV_Proxy().GetPersonalUserID(user));
+  const std::regex warning(R"(> DBG_LV\[0\]\[FCSyncDet::Report\] GetPersonalUserID still running after (\d+) ms\n$)");
   std::vector<unsigned long> waits;
   std::smatch waited;
-  for (const auto& line : LogCapture::Lines()) {
-    if (std::regex_search(line, waited, kSlowLine)) waits.push_back(std::stoul(waited[1]));
+  for (const auto& record : LogCapture::Records()) {
+    if (std::regex_search(record.text, waited, warning) && record.logId == LOG_ID_SYSTEM &&
+        record.priority == DLOG_WARN)
+      waits.push_back(std::stoul(waited[1]));
   }
   return waits;
 }
@@ -45,15 +42,15 @@ class SlowCallThread : public ServiceTest {};
 
 TEST_F(SlowCallThread, UnsetChangesNothing) {
   unsetenv("ZUNDE_SLOW_CALL_MS");
-  SlowLinesOfASlowCall();  // the connection's own threads start here
-  const int threads = ThreadsOfProcess();
-  EXPECT_TRUE(SlowLinesOfASlowCall().empty());
+  WarningsOfASlowCall();  // the connection's own threads start here
+  const long threads = ThreadsOfProcess();
+  EXPECT_TRUE(WarningsOfASlowCall().empty());
   EXPECT_EQ(ThreadsOfProcess(), threads);
 }
 
 TEST_F(SlowCallThread, SetLogsOneWarningNamingTheMemberAndTheWait) {
   setenv("ZUNDE_SLOW_CALL_MS", "50", 1);
-  const auto waits = SlowLinesOfASlowCall();
+  const auto waits = WarningsOfASlowCall();
   unsetenv("ZUNDE_SLOW_CALL_MS");
   ASSERT_EQ(waits.size(), 1u);
   EXPECT_GE(waits[0], 50u);

@@ -8,8 +8,13 @@
 using zunde::Locked;
 
 FCAlarm::FCAlarm()
-    : m_pTask(nullptr), m_priority(FCQueue::ePriorityNormal), m_armed(false), m_periodic(false), m_quit(false),
-      m_periodMs(0), m_due(0) {}
+    : m_pTask(nullptr),
+      m_priority(FCQueue::ePriorityNormal),
+      m_armed(false),
+      m_periodic(false),
+      m_quit(false),
+      m_periodMs(0),
+      m_due(0) {}
 
 FCAlarm::~FCAlarm() { FCASSERT(FlagCreate() == false); }
 

@@ -57,13 +57,13 @@ class FCAlarm : private FCThread {
   FCTask* m_pTask;
   FCEvent m_event;
   int m_priority;
-  FCMutex m_lock;       // guards the fields below and every expiry
-  FCSemaphore m_wake;   // given when the thread should look again
+  FCMutex m_lock;      // guards the fields below and every expiry
+  FCSemaphore m_wake;  // given when the thread should look again
   bool m_armed;
   bool m_periodic;
   bool m_quit;
   unsigned long m_periodMs;
-  uint32_t m_due;       // monotonic milliseconds
+  uint32_t m_due;  // monotonic milliseconds
 };
 
 #endif
