@@ -5,8 +5,16 @@
 #define ZUNDE_PROVIDER_H
 
 // Task runtime
+#include "FCAlarm.h"
 #include "FCDebug.h"
 #include "FCError.h"
+#include "FCHandler.h"
+#include "FCList.h"
+#include "FCQueue.h"
+#include "FCStateAlarm.h"
+#include "FCSyncDet.h"
+#include "FCTask.h"
+#include "FCTaskList.h"
 #include "FCThread.h"
 #include "FCTimeWapper.h"
 

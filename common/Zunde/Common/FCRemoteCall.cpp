@@ -4,6 +4,7 @@
 #include "FCIPCNames_internal.h"
 #include "FCMarshal.h"
 #include "FCMessageBuffer.h"
+#include "FCSlowCall_internal.h"
 
 namespace zunde {
 namespace {
@@ -24,6 +25,7 @@ bool TransmitText(const CallLogLines& lines, const LogSite& site, const char* su
   FCMessageBuffer requestBuffer;
   FCMessageBuffer replyBuffer;
   requestBuffer.PushConcatenated(request.length(), const_cast<char*>(request.data()));
+  const SlowCallWatch watch(member);
   if (connection->Call(std::string(bus::kCallListener), member, requestBuffer, replyBuffer) == -1) {
     WriteLogLine(lines.sendFailed, site, subject);
     return false;
