@@ -32,56 +32,47 @@ const char kFull[] =
 // The default slot's form with the members of `changed` put over it.
 std::string DefaultWith(const std::string& changed) { return Overlay(kDefault, changed); }
 
-std::string WithMetadata(const char* metadata) {
+std::string WithMetadata(const std::string& metadata) {
   Slot slot;
   slot.metadata = metadata;
   return Write(slot);
 }
 
+std::string TimeOffsetIn(const std::string& seconds) {
+  Slot slot;
+  slot.SetStartTime(static_cast<unsigned int>(FCTimeWrapper::EpochTime()) + std::stoul(seconds));
+  return std::to_string(slot.GetTimeOffset());
+}
+
 const TextCase kSlots[] = {
-    {"Default", [] { return Write(Slot()); }, kDefault},
-    {"Full", [] { return Reread<Slot>(kFull); }, kFull},
-    {"NoServiceId", [] { return Reread<Slot>(R"({"program_data":{}})"); }, kDefault},
-    {"DecimalServiceId", [] { return Reread<Slot>(R"({"program_data":{"TCServiceId":"007"}})"); },
+    {"Full", Reread<Slot>, kFull, kFull},
+    {"Default", Reread<Slot>, "{}", kDefault},
+    {"NoServiceId", Reread<Slot>, R"({"program_data":{}})", kDefault},
+    {"DecimalServiceId", Reread<Slot>, R"({"program_data":{"TCServiceId":"007"}})",
      DefaultWith(R"({"program_data":{"TCServiceId":"7"}})")},
     // Values of a type that does not convert read as empty, a present index as 0.
-    {"IllTyped",
-     [] {
-       return Reread<Slot>(R"({"program_data":[1],"id":{},"duration":[],"relative_offset":"x","poster":"p",)"
-                           R"("group_play_list":{"order":1}})");
-     },
+    {"IllTyped", Reread<Slot>,
+     R"({"program_data":[1],"id":{},"duration":[],"relative_offset":"x","poster":"p","group_play_list":{"order":1}})",
      DefaultWith(R"({"relative_offset":0})")},
     // A start is a date-time, else epoch seconds as text, with base prefixes.
-    {"StartAsEpochText", [] { return Reread<Slot>(R"({"starttime":"1456864200"})"); },
+    {"StartAsEpochText", Reread<Slot>, R"({"starttime":"1456864200"})",
      DefaultWith(R"({"starttime":"2016-03-01T20:30:00Z"})")},
-    {"StartAsHexText", [] { return Reread<Slot>(R"({"starttime":"0x10"})"); },
-     DefaultWith(R"({"starttime":"1970-01-01T00:00:16Z"})")},
-    {"DurationAsHexText", [] { return Reread<Slot>(R"({"duration":"0x10"})"); }, DefaultWith(R"({"duration":16})")},
+    {"StartAsHexText", Reread<Slot>, R"({"starttime":"0x10"})", DefaultWith(R"({"starttime":"1970-01-01T00:00:16Z"})")},
+    {"DurationAsHexText", Reread<Slot>, R"({"duration":"0x10"})", DefaultWith(R"({"duration":16})")},
     // Unknown non-empty members come back as metadata; descriptions are dropped.
-    {"UnknownMembers",
-     [] {
-       return Reread<Slot>(R"({"ret":true,"rating":{"age":12},"count":0,"note":"","none":null,"list":[],"tags":["a"],)"
-                           R"("lang":"en","mid_desc":"m","desc":"d","genres":["g"],"video_quality":"hd",)"
-                           R"("schedule_type":"live","trailer_url":"t","website":"w"})");
-     },
+    {"UnknownMembers", Reread<Slot>,
+     R"({"ret":true,"rating":{"age":12},"count":0,"note":"","none":null,"list":[],"tags":["a"],"lang":"en",)"
+     R"("mid_desc":"m","desc":"d","genres":["g"],"video_quality":"hd","schedule_type":"live","trailer_url":"t",)"
+     R"("website":"w"})",
      DefaultWith(R"({"ret":true,"rating":{"age":12},"count":0,"tags":["a"]})")},
     // Metadata spreads its members over the form: only an empty value is
     // skipped, and a member under a field's key wins over the field.
-    {"MetadataNotJson", [] { return WithMetadata("not json"); }, kDefault},
-    {"MetadataEmptyValues", [] { return WithMetadata(R"({"lang":"en","n":null,"a":[],"o":{},"s":"","title":""})"); },
+    {"MetadataNotJson", WithMetadata, "not json", kDefault},
+    {"MetadataEmptyValues", WithMetadata, R"({"lang":"en","n":null,"a":[],"o":{},"s":"","title":""})",
      DefaultWith(R"({"lang":"en"})")},
-    {"MetadataValues",
-     [] {
-       return WithMetadata(R"({"zero":0,"no":false,"pi":1.5,"a":[null],"o":{"k":""},"title":"T","duration":"9"})");
-     },
-     DefaultWith(R"({"zero":0,"no":false,"pi":1.5,"a":[null],"o":{"k":""},"title":"T","duration":"9"})")},
-    {"TimeOffsetBeforeTheStart",
-     [] {
-       Slot slot;
-       slot.SetStartTime(static_cast<unsigned int>(FCTimeWrapper::EpochTime()) + 3600U);
-       return std::to_string(slot.GetTimeOffset());
-     },
-     "0"},
+    {"MetadataValues", WithMetadata, R"({"zero":0,"no":false,"pi":1.5,"a":[null],"o":{"k":""},"title":"T"})",
+     DefaultWith(R"({"zero":0,"no":false,"pi":1.5,"a":[null],"o":{"k":""},"title":"T"})")},
+    {"TimeOffsetBeforeTheStart", TimeOffsetIn, "3600", "0"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Slots, Text, ::testing::ValuesIn(kSlots), CaseName);

@@ -1,14 +1,13 @@
 // Every virtual channel record has a static ToJson / FromJson pair; the tests
 // compare FastWriter's compact text, member order and number forms included.
-// Most cases are one row of a table: a name, the text some use of a record
-// gives, and the exact text expected.
+// Most cases are one row of a table: a name, a use of a record, the text it
+// is given, and the exact text it must give back.
 #ifndef ZUNDE_TESTS_VIRTUAL_RECORD_JSON_H
 #define ZUNDE_TESTS_VIRTUAL_RECORD_JSON_H
 
 #include <gtest/gtest.h>
 #include <json/json.h>
 
-#include <functional>
 #include <string>
 
 #include "json_text.h"
@@ -41,6 +40,11 @@ std::string Reread(const std::string& text) {
   return Write(Read<Record>(text));
 }
 
+template <typename Record>
+std::string TextOf(const std::string& text) {
+  return Read<Record>(text).ToString();
+}
+
 // `json` with the members of `changed` put over it.
 inline std::string Overlay(const std::string& json, const std::string& changed) {
   Json::Value result = Parsed(json);
@@ -51,7 +55,8 @@ inline std::string Overlay(const std::string& json, const std::string& changed) 
 
 struct TextCase {
   const char* name;
-  std::function<std::string()> text;
+  std::string (*use)(const std::string& input);
+  std::string input;
   std::string expected;
 };
 

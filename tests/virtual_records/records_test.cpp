@@ -10,7 +10,7 @@
 
 namespace vcrecords {
 
-TEST_P(Text, IsExactlyTheExpected) { EXPECT_EQ(GetParam().expected, GetParam().text()); }
+TEST_P(Text, GivesExactlyTheExpectedText) { EXPECT_EQ(GetParam().expected, GetParam().use(GetParam().input)); }
 
 namespace {
 
@@ -40,29 +40,25 @@ std::string StartOf(const std::string& value) {
 // The id is read back through its text form, since its equality lets a
 // zero service id pass; a start given as text must be a date-time.
 const TextCase kRecords[] = {
-    {"IdJson", [] { return Reread<Id>(kId); }, kId},
-    {"IdText", [] { return Read<Id>(kId).ToString(); },
-     "TCServiceId: 18446744073709551615\nid: ev\nstart_time: 100\nduration: 60\n"},
-    {"IdMissing", [] { return Read<Id>(R"({"program_id":5})").ToString(); }, Id().ToString()},
-    {"IdStartAsDateTime", [] { return StartOf(R"("2016-03-01T20:30:00Z")"); }, "1456864200"},
-    {"IdStartAsOtherText", [] { return StartOf(R"("1456864200")"); }, "0"},
-    {"ItemJson", [] { return Reread<Item>(kItem); }, kItem},
-    {"ItemText", [] { return Read<Item>(kItem).ToString(); },
-     "order: 3\nid: c3\ntitle: Clip\ncontent_uri: http://c/3\nduration: 45\n"},
-    {"ChannelJson", [] { return Reread<Channel>(kChannel); }, kChannel},
+    {"IdJson", Reread<Id>, kId, kId},
+    {"IdText", TextOf<Id>, kId, "TCServiceId: 18446744073709551615\nid: ev\nstart_time: 100\nduration: 60\n"},
+    {"IdMissing", TextOf<Id>, R"({"program_id":5})", Id().ToString()},
+    {"IdStartAsDateTime", StartOf, R"("2016-03-01T20:30:00Z")", "1456864200"},
+    {"IdStartAsOtherText", StartOf, R"("1456864200")", "0"},
+    {"ItemJson", Reread<Item>, kItem, kItem},
+    {"ItemText", TextOf<Item>, kItem, "order: 3\nid: c3\ntitle: Clip\ncontent_uri: http://c/3\nduration: 45\n"},
+    {"ChannelJson", Reread<Channel>, kChannel, kChannel},
     // The label is repeated for the major as the service's logs have it.
-    {"ChannelText", [] { return Read<Channel>(kChannel).ToString(); },
+    {"ChannelText", TextOf<Channel>, kChannel,
      "channel name: Movies\nchannel name: 101\nlogo[big.png]: 2\nlogo[small.png]: 1\n"},
-    {"ChannelMissingMajorAndLogos", [] { return Reread<Channel>("{}"); },
+    {"ChannelMissingMajorAndLogos", Reread<Channel>, "{}",
      R"({"channel_name":"","major":"0"})"
      "\n"},
-    {"ChannelLaterDuplicateLogoWins",
-     [] {
-       return Reread<Channel>(R"({"major":"","logo_collection":[{"logo":"a","index":1},{"logo":"a","index":5}]})");
-     },
+    {"ChannelLaterDuplicateLogoWins", Reread<Channel>,
+     R"({"major":"","logo_collection":[{"logo":"a","index":1},{"logo":"a","index":5}]})",
      R"({"channel_name":"","logo_collection":[{"index":5,"logo":"a"}],"major":""})"
      "\n"},
-    {"ConfigJson", [] { return Reread<Config>(kConfig); }, kConfig},
+    {"ConfigJson", Reread<Config>, kConfig, kConfig},
 };
 
 INSTANTIATE_TEST_SUITE_P(Records, Text, ::testing::ValuesIn(kRecords), CaseName);
