@@ -20,8 +20,6 @@ struct FilterCase {
 const FilterCase kFilters[] = {
     {"NoFilterTakesAll", "", "", ",1,", {"9"}, true},
     {"NoFilterTakesOneWithoutGenres", "", "", "", {}, true},
-    {"RepIdAloneFilters", "", "P", ",7,", {"8"}, false},
-    {"WithoutGenresNothingMatches", "R", "", ",7,", {}, false},
     {"AnyGenreMatches", "R", "", ",12,7,", {"3", "7"}, true},
     {"NoPartialIds", "R", "", ",7,", {"77"}, false},
     {"ListWithoutCommasNeverMatches", "R", "", "4", {"4"}, false},
