@@ -78,6 +78,11 @@ std::string CaseName(const ::testing::TestParamInfo<Case>& info) {
 }
 
 // --- outputs as text ---
+// Each test file renders the records it uses in its own way, so these
+// templates are instantiated apart in each file (an unnamed namespace)
+// rather than shared by the linker.
+namespace {
+
 
 inline std::string OutputText(const std::string& value) { return value; }
 inline std::string OutputText(const char* value) { return value; }
@@ -90,15 +95,25 @@ std::string OutputText(T value) {
     return std::to_string(value);
   }
 }
+// Containers render their items, nested containers included.
+template <typename A, typename B>
+std::string OutputText(const std::pair<A, B>& pair);
+template <typename T>
+std::string OutputText(const std::vector<T>& items);
+template <typename T>
+std::string OutputText(const std::list<T>& items);
+template <typename K, typename V>
+std::string OutputText(const std::map<K, V>& items);
+
+template <typename Range>
+std::string JoinedText(const Range& range, const char* open, const char* close) {
+  std::string text;
+  for (const auto& item : range) text += (text.empty() ? "" : ", ") + OutputText(item);
+  return open + text + close;
+}
 template <typename A, typename B>
 std::string OutputText(const std::pair<A, B>& pair) {
   return OutputText(pair.first) + ": " + OutputText(pair.second);
-}
-template <typename Range>
-std::string JoinedText(const Range& range, const char* open, const char* close) {
-  std::string text = open;
-  for (const auto& item : range) text += (text.size() > 1 ? ", " : "") + OutputText(item);
-  return text + close;
 }
 template <typename T>
 std::string OutputText(const std::vector<T>& items) {
@@ -134,6 +149,8 @@ std::function<Observed()> Observe(F f, Outs... initial) {
     return observed;
   };
 }
+
+}  // namespace
 
 // The service runs for the whole suite; each test starts with no calls
 // received and no lines written.
