@@ -6,10 +6,8 @@
 #include "proxy_harness.h"
 #include "test_service.h"
 
-namespace {
-
 // A JSON form without the members left at "", 0 or false: what a reply filled in.
-Json::Value Pruned(const Json::Value& value) {
+static Json::Value Pruned(const Json::Value& value) {
   Json::Value out = value.isObject() || value.isArray() ? Json::Value(value.type()) : value;
   for (auto it = value.begin(); it != value.end(); ++it) {
     const Json::Value item = Pruned(*it);
@@ -19,26 +17,22 @@ Json::Value Pruned(const Json::Value& value) {
   return out;
 }
 
-std::string Text(const Json::Value& value) {
-  Json::FastWriter writer;
-  writer.omitEndingLineFeed();
-  return writer.write(Pruned(value));
+static std::string Text(const Json::Value& value) {
+  std::string text = zunde::testing::Compact(Pruned(value));
+  return text.erase(text.size() - 1);
 }
 
-}  // namespace
-
-// Records as the filled part of their JSON form.
+// Records as the filled part of their JSON form (writing leaves a record as it is).
 template <class R, class = decltype(R::FromJson(std::declval<Json::Value&>(), std::declval<R&>()))>
 static std::string OutputText(const R& record) {
   Json::Value form;
-  R::ToJson(const_cast<R&>(record), form);  // writing leaves the record as it is
+  R::ToJson(const_cast<R&>(record), form);
   return Text(form);
 }
-static std::string OutputText(const std::vector<FCRemoteProgram>& l) { return zunde::testing::JoinedText(l, "[", "]"); }
-static std::string OutputText(const std::map<int, FCSmartChannelGuide>& m) { return zunde::testing::JoinedText(m, "{", "}"); }
-static std::string OutputText(const std::map<int, FCSmartChannelGuide_Future>& m) {
-  return zunde::testing::JoinedText(m, "{", "}");
-}
+using zunde::testing::JoinedText;
+static std::string OutputText(const std::vector<FCRemoteProgram>& l) { return JoinedText(l, "[", "]"); }
+static std::string OutputText(const std::map<int, FCSmartChannelGuide>& m) { return JoinedText(m, "{", "}"); }
+static std::string OutputText(const std::map<int, FCSmartChannelGuide_Future>& m) { return JoinedText(m, "{", "}"); }
 
 namespace {
 
@@ -46,9 +40,9 @@ using namespace zunde::testing;
 using Mso = FCRemoteContentOnTV_MSO_Proxy;
 using Finder = FCMatchFinder_Proxy;
 using ProgramMap = std::map<std::string, std::vector<FCRemoteProgram> >;
+using Timeline = std::map<int, std::map<int, FCSmartChannelGuide> >;
+using FutureTimeline = std::map<int, std::map<int, FCSmartChannelGuide_Future> >;
 const auto kAct = static_cast<eRemoteContentActivity>(3);
-const char kActOnly[] = R"({"activityID":3})";
-const char kRet[] = R"({"ret":true})";
 const unsigned long long kMaxId = 18446744073709551615ULL;
 
 // Both families write to the system log at warning priority; the parse
@@ -59,7 +53,8 @@ const Family kFinder{"FCMatchFinder_Proxy", "]  called\n"};
 
 ExpectedLine Line(const std::string& text) { return {2, 5, "DBG_LV[0][" + text}; }
 
-// The member is the method's name (before any "_" of the row's name) unless given.
+// The request as compact JSON; the member is the method's name (before any
+// "_" of the row's name) unless given.
 ProxyCase Row(const Family& family, const std::string& name, const std::string& request, const std::string& reply,
               const std::string& outputs, std::function<Observed()> call, const std::string& entry = "",
               const std::string& member = "") {
@@ -70,26 +65,21 @@ ProxyCase Row(const Family& family, const std::string& name, const std::string& 
           Line("FCRemoteContentOnTV_MSO_Proxy::" + method + "] fail to parse json data\n")};
 }
 
-// The shapes most operator methods share: the activity in, at most one output.
+// The shape most operator methods share: the activity alone in, one output.
 template <typename Out>
 std::function<Observed()> ForAct(bool (Mso::*method)(Mso::Act, Out&)) {
   return Observe<Mso>([method](Mso& p, Out& out) { return (p.*method)(kAct, out); }, Out());
 }
-std::function<Observed()> ForAct(bool (Mso::*method)(Mso::Act)) {
-  return Observe<Mso>([method](Mso& p) { return (p.*method)(kAct); });
-}
-#define BY_ACT(method, reply, outputs) Row(kMso, #method, kActOnly, reply, outputs, ForAct(&Mso::method))
-// `p.call`, with the one output `out` starting at `init`, or none.
+#define BY_ACT(method, reply, outputs) Row(kMso, #method, R"({"activityID":3})", reply, outputs, ForAct(&Mso::method))
+// `p.call`, with one output `out` starting at `init`, or none.
 #define CALL(P, init, ...) Observe<P>([](P& p, auto& out) { return p.__VA_ARGS__; }, init)
 #define SEND(...) Observe<Mso>([](Mso& p) { return p.__VA_ARGS__; })
 
 FCFilterCriteria filter;
-std::vector<std::string> ids{"p1", "p2"};
+std::vector<std::string> ids{"p", "q"};
 FCRemoteChannel channel;
-std::string ChannelForm() { Json::Value form; FCRemoteChannel::ToJson(channel, form); return Compact(form); }
-using Guides = std::list<FCSmartChannelGuide>;
+const char kRet[] = R"({"ret":true})";
 const char kGuide[] = R"({"ret":true,"out_list":[{"str_name":"N","sequence":2}]})";
-const char kSearch[] = R"({"ret":true,"search string":"S"})";
 const std::string kSlot = R"(:1,"sequence_map":[{"sequence":0,"smart_channel_guide":{"str_name":"N"}}]}]})";
 
 const ProxyCase kMsoCases[] = {
@@ -98,88 +88,97 @@ const ProxyCase kMsoCases[] = {
     Row(kMso, "SetRemoteContentConfig", R"({"activityID":3,"config":{"antennaMode":-1,"serviceMode":-1,"source":-1,
         "strDeviceType":"","strHeadend":"","strZipCode":"","str_additional_info_with_json_format":""}})", kRet, "",
         SEND(SetRemoteContentConfig(kAct, FCRemoteMSOConfig()))),
-    BY_ACT(GetCertRule, R"({"ret":true,"out_cert_rule":{"str_bar_mode":"B"}})", R"({"out_cert_rule":{"str_bar_mode":"B"}})"),
+    BY_ACT(GetCertRule, R"({"ret":true,"out_cert_rule":{"str_bar_mode":"B"}})",
+           R"({"out_cert_rule":{"str_bar_mode":"B"}})"),
     BY_ACT(GetFullChannelList, R"({"ret":true,"channel_array":[{"genre name":"G"},{"str_sid":"7"}]})",
            R"([{"gere name":"G"}, {"str_sid":"7"}])"),
     BY_ACT(GetTunableChannelList, R"({"ret":true,"channel_array":[{"str_sid":"7"}]})", R"([{"str_sid":"7"}])"),
     BY_ACT(GetFeaturedChannels, kRet, "[]"),
-    BY_ACT(GetTunableProgramSourceIdMap, R"({"ret":true,"out_tunable_program_source_id_map":[{"program_source_id":
-           "p1","channel_key":{"str_sid":"7"}},{"program_source_id":"p1"}]})", R"({p1: {"channel_key":{"str_sid":"7"}}})"),
-    Row(kMso, "GetProgramMap", R"({"activityID":3,"sourceIDArray":["p1","p2"],"utc start time":1700000000,
-        "duration":3600,"genre id list":"","rep id":"","rec id":""})", R"({"ret":true,"out_mapProgramWithSourceID":
-        [{"program_source_id":"p1","program_array":[{"title":"A"},{"title":"B"}]},{"program_source_id":"p1"}]})",
-        R"({p1: [{"title":"A"}, {"title":"B"}]})", CALL(Mso, ProgramMap(), GetProgramMap(kAct, ids, 1700000000, 3600,
-        filter, out))),
-    BY_ACT(ActivateProgramGuide, kRet, ""),
-    BY_ACT(DeactivateProgramGuide, kRet, ""),
+    BY_ACT(GetTunableProgramSourceIdMap, R"({"ret":true,"out_tunable_program_source_id_map":[{"program_source_id":"p",
+           "channel_key":{"str_sid":"7"}},{"program_source_id":"p"}]})", R"({p: {"channel_key":{"str_sid":"7"}}})"),
+    Row(kMso, "GetProgramMap", R"({"activityID":3,"sourceIDArray":["p","q"],"utc start time":1700000000,"duration":60,
+        "genre id list":"","rep id":"","rec id":""})", R"({"ret":true,"out_mapProgramWithSourceID":[
+        {"program_source_id":"p","program_array":[{"title":"A"},{"title":"B"}]},{"program_source_id":"p"}]})",
+        R"({p: [{"title":"A"}, {"title":"B"}]})",
+        CALL(Mso, ProgramMap(), GetProgramMap(kAct, ids, 1700000000, 60, filter, out))),
+    Row(kMso, "ActivateProgramGuide", R"({"activityID":3})", kRet, "", SEND(ActivateProgramGuide(kAct))),
+    Row(kMso, "DeactivateProgramGuide", R"({"activityID":3})", kRet, "", SEND(DeactivateProgramGuide(kAct))),
     Row(kMso, "LoadAdditionalProgramMapFromServer", R"({"activityID":3,"utc_starttime":4000000000,"duration":60,
-        "sourceIDArray":["p1","p2"]})", kRet, "", SEND(LoadAdditionalProgramMapFromServer(kAct, ids, 4000000000UL, 60))),
+        "sourceIDArray":["p","q"]})", kRet, "", SEND(LoadAdditionalProgramMapFromServer(kAct, ids, 4000000000UL, 60))),
     BY_ACT(GetGenreList, R"({"ret":true,"array_genre":[{"str_id":"4"}]})", R"([{"str_id":"4"}])"),
     BY_ACT(GetRepGenreList, R"({"ret":true,"out_array_rep_genre":[{"str_rep_id":"r"}]})", R"([{"str_rep_id":"r"}])"),
     BY_ACT(GetVODProviders, R"({"ret":true,"out_vod_providers":[{"string":"k","name":"N"}]})",
            R"({"out_vod_providers":[{"name":"N","string":"k"}]})"),
-    BY_ACT(GetRecGroupMap, R"({"ret":true,"out_map_rec_group":[{"string":"g","name":"A"},{"string":"g","name":"B"}]})",
+    BY_ACT(GetRecGroupMap, R"({"ret":true,"out_map_rec_group":[{"string":"g","name":"A"},{"string":"g"}]})",
            R"({g: {"name":"A"}})"),
     Row(kMso, "ActivateTimeline", R"({"activityID":3,"utc_current_time":4000000000})", kRet, "",
         SEND(ActivateTimeline(kAct, 4000000000UL)), "", "ActivateSmartPersonal"),
     Row(kMso, "ActivateSmartPersonal", R"({"activityID":3,"utc_current_time":4000000000})", kRet, "",
         SEND(ActivateSmartPersonal(kAct, 4000000000UL))),
-    Row(kMso, "GetRecommendationOnNow", R"({"activityID":3,"current_watching_program_source_id":"p1","utc_currenttime":
-        100,"number_of_recommendation":5,"genre id list":"","rec id":""})", kGuide, R"([{"sequence":2,"str_name":"N"}])",
-        CALL(Mso, Guides(), GetRecommendationOnNow(kAct, "p1", 100, 5, filter, out))),
-    Row(kMso, "GetRecommendationUpcomming", R"({"activityID":3,"utc_currenttime":100,"number_of_recommendation":5,
+    Row(kMso, "GetRecommendationOnNow", R"({"activityID":3,"current_watching_program_source_id":"p",
+        "utc_currenttime":1,"number_of_recommendation":5,"genre id list":"","rec id":""})", kGuide,
+        R"([{"sequence":2,"str_name":"N"}])",
+        CALL(Mso, std::list<FCSmartChannelGuide>(), GetRecommendationOnNow(kAct, "p", 1, 5, filter, out))),
+    Row(kMso, "GetRecommendationUpcomming", R"({"activityID":3,"utc_currenttime":1,"number_of_recommendation":5,
         "genre id list":"","rec id":""})", kGuide, R"([{"sequence":2,"str_name":"N"}])",
-        CALL(Mso, Guides(), GetRecommendationUpcomming(kAct, 100, 5, filter, out))),
-    Row(kMso, "GetRecommendationTimeline", R"({"activityID":3,"utc_currenttime":100,"from_timeslot":1,"to_timeslot":2})",
+        CALL(Mso, std::list<FCSmartChannelGuide>(), GetRecommendationUpcomming(kAct, 1, 5, filter, out))),
+    Row(kMso, "GetRecommendationTimeline", R"({"activityID":3,"utc_currenttime":1,"from_timeslot":1,"to_timeslot":2})",
         R"({"ret":true,"out_timeline":[{"time_slot")" + kSlot, R"({1: {0: {"str_name":"N"}}})",
-        CALL(Mso, (std::map<int, std::map<int, FCSmartChannelGuide> >()), GetRecommendationTimeline(kAct, 100, 1, 2, out))),
+        CALL(Mso, Timeline(), GetRecommendationTimeline(kAct, 1, 1, 2, out))),
     Row(kMso, "GetRecommendationFutureTimeline", R"({"activityID":3,"from_dayslot":1,"to_dayslot":2})",
         R"({"ret":true,"out_future_timeline":[{"day_slot")" + kSlot, R"({1: {0: {"str_name":"N"}}})",
-        CALL(Mso, (std::map<int, std::map<int, FCSmartChannelGuide_Future> >()), GetRecommendationFutureTimeline(kAct, 1, 2, out))),
-    Row(kMso, "GetFCRemoteProgramByProgramSourceID", R"({"activityID":3,"program source id":"p1","utc current time":100})",
+        CALL(Mso, FutureTimeline(), GetRecommendationFutureTimeline(kAct, 1, 2, out))),
+    Row(kMso, "GetFCRemoteProgramByProgramSourceID", R"({"activityID":3,"program source id":"p","utc current time":1})",
         R"({"ret":true,"title":"T"})", R"({"title":"T"})",
-        CALL(Mso, FCRemoteProgram(), GetFCRemoteProgramByProgramSourceID(kAct, "p1", 100, out))),
-    Row(kMso, "GetFCRemoteChannelByProgramSourceID", R"({"activityID":3,"program source id":"p1"})",
+        CALL(Mso, FCRemoteProgram(), GetFCRemoteProgramByProgramSourceID(kAct, "p", 1, out))),
+    Row(kMso, "GetFCRemoteChannelByProgramSourceID", R"({"activityID":3,"program source id":"p"})",
         R"({"ret":true,"str_sid":"7"})", R"({"str_sid":"7"})",
-        CALL(Mso, FCRemoteChannel(), GetFCRemoteChannelByProgramSourceID(kAct, "p1", out))),
-    Row(kMso, "GetSearchKeyStringInRFMode", R"({"activityID":3,"TCServiceId":"18446744073709551615","utc_current_time":
-        100})", kSearch, "18446744073709551615 | S", Observe<Mso>([](Mso& p, auto& id, auto& out) {
-          return p.GetSearchKeyStringInRFMode(kAct, id, 100, out); }, kMaxId, std::string("-"))),
-    Row(kMso, "GetSearchKeyStringInMBRMode", R"({"activityID":3,"mbr ch number":"7-1","utc current time":100})", kSearch,
-        "S", CALL(Mso, std::string("-"), GetSearchKeyStringInMBRMode(kAct, "7-1", 100, out))),
+        CALL(Mso, FCRemoteChannel(), GetFCRemoteChannelByProgramSourceID(kAct, "p", out))),
+    Row(kMso, "GetSearchKeyStringInRFMode", R"({"activityID":3,"TCServiceId":"18446744073709551615",
+        "utc_current_time":1})", R"({"ret":true,"search string":"S"})", "18446744073709551615 | S",
+        Observe<Mso>([](Mso& p, auto& id, auto& out) { return p.GetSearchKeyStringInRFMode(kAct, id, 1, out); },
+                     kMaxId, std::string("-"))),
+    Row(kMso, "GetSearchKeyStringInMBRMode", R"({"activityID":3,"mbr ch number":"7-1","utc current time":1})",
+        R"({"ret":true,"search string":"S"})", "S",
+        CALL(Mso, std::string("-"), GetSearchKeyStringInMBRMode(kAct, "7-1", 1, out))),
 };
 INSTANTIATE_TEST_SUITE_P(OperatorRemoteContent, ProxyMethod, ::testing::ValuesIn(kMsoCases), CaseName<ProxyCase>);
 
 // A channel's keys sit flat beside "activityID", so its own activity replaces the call's.
 const ProxyCase kFinderCases[] = {
     Row(kFinder, "GetFCRemoteChannelByTCServiceId", R"({"activityID":3,"TCServiceId":"42"})",
-        R"({"ret":true,"str_sid":"7"})", R"(42 | {"str_sid":"7"})", Observe<Finder>([](Finder& p, auto& id, auto& out) {
-          return p.GetFCRemoteChannelByTCServiceId(kAct, id, out); }, 42ULL, FCRemoteChannel()),
+        R"({"ret":true,"str_sid":"7"})", R"(42 | {"str_sid":"7"})",
+        Observe<Finder>([](Finder& p, auto& id, auto& out) { return p.GetFCRemoteChannelByTCServiceId(kAct, id, out); },
+                        42ULL, FCRemoteChannel()),
         "FCMatchFinder::GetFCRemoteChannelByTCServiceId]  TCServiceId = 42\n"),
-    Row(kFinder, "GetTCServiceIdByFCRemoteChannel", ChannelForm(),
+    Row(kFinder, "GetTCServiceIdByFCRemoteChannel", R"({"ac_rank":"","activityID":0,"embed":0,"genre id":"",
+        "gere name":"","str_alias":"","str_channel_name":"","str_channel_number":"","str_digital_flag":"","str_dtv":"",
+        "str_frequency":"","str_icon_url":"","str_major":"","str_minor":"","str_onid":"","str_program_source_id":"",
+        "str_ptc":"","str_qam_flag":"","str_sid":"","str_tsid":"","str_url_index":""})",
         R"({"ret":true,"TCServiceId":"18446744073709551615"})", "18446744073709551615",
         CALL(Finder, 0ULL, GetTCServiceIdByFCRemoteChannel(kAct, channel, out))),
-    Row(kFinder, "GetTCServiceIdByProgramSourceID", R"({"activityID":3,"program source id":"p1"})",
-        R"({"ret":true,"TCServiceId":"12"})", "12", CALL(Finder, 0ULL, GetTCServiceIdByProgramSourceID(kAct, "p1", out))),
+    Row(kFinder, "GetTCServiceIdByProgramSourceID", R"({"activityID":3,"program source id":"p"})",
+        R"({"ret":true,"TCServiceId":"12"})", "12",
+        CALL(Finder, 0ULL, GetTCServiceIdByProgramSourceID(kAct, "p", out))),
 };
 INSTANTIATE_TEST_SUITE_P(MatchFinder, ProxyMethod, ::testing::ValuesIn(kFinderCases), CaseName<ProxyCase>);
 
 Mso mso;
 Finder finder;
-#define PASS(family, object, m)                                                     \
+#define PASS(family, object, m)                                                               \
   PassThroughCase{#m, #m, [](auto& in, auto& out) { return object.m(in, out); }, true, false, \
                   Line(family.first + "::" #m + family.second),                               \
                   Line(family.first + "::" #m "] fail to communicate using d-bus\n")}
 #define MSO(m) PASS(kMso, mso, m)
+#define FINDER(m) PASS(kFinder, finder, m)
 const PassThroughCase kPassThroughs[] = {
     MSO(GetRemoteContentConfig), MSO(SetRemoteContentConfig), MSO(GetCertRule), MSO(GetFullChannelList),
     MSO(GetTunableChannelList), MSO(GetProgramMap), MSO(ActivateProgramGuide), MSO(DeactivateProgramGuide),
     MSO(LoadAdditionalProgramMapFromServer), MSO(GetGenreList), MSO(GetRepGenreList), MSO(GetVODProviders),
     MSO(GetRecGroupMap), MSO(ActivateSmartPersonal), MSO(GetRecommendationOnNow), MSO(GetRecommendationUpcomming),
     MSO(GetFCRemoteProgramByProgramSourceID), MSO(GetFCRemoteChannelByProgramSourceID),
-    PASS(kFinder, finder, GetFCRemoteChannelByTCServiceId), PASS(kFinder, finder, GetTCServiceIdByFCRemoteChannel),
-    PASS(kFinder, finder, GetTCServiceIdByProgramSourceID),
-};
+    FINDER(GetFCRemoteChannelByTCServiceId), FINDER(GetTCServiceIdByFCRemoteChannel),
+    FINDER(GetTCServiceIdByProgramSourceID)};
 INSTANTIATE_TEST_SUITE_P(OperatorAndMatchFinder, ProxyPassThrough, ::testing::ValuesIn(kPassThroughs),
                          CaseName<PassThroughCase>);
 
@@ -194,24 +193,24 @@ TEST(MatchFinderServiceId, WritingConsumesTheIdAndReadingChecksNoDigit) {
   EXPECT_EQ(readAbsent, 0u);
 }
 
-// 5,000 channels and 100 sources of 100 programmes each, read back whole.
+// 5,000 channels and 100 sources of 100 programmes each in one reply to both
+// calls, read back whole.
 using OperatorBulk = ServiceTest;
 TEST_F(OperatorBulk, LargeRepliesComeThroughIntact) {
-  Json::Value channels, programs, listForm, mapForm;
+  Json::Value sent, back;
   for (int i = 0; i < 10000; ++i) {
-    if (i < 5000) channels["channel_array"][i]["str_sid"] = std::to_string(i);
-    programs["out_mapProgramWithSourceID"][i / 100]["program_source_id"] = std::to_string(1000 + i / 100);
-    programs["out_mapProgramWithSourceID"][i / 100]["program_array"][i % 100]["title"] = std::to_string(i);
+    if (i < 5000) sent["channel_array"][i]["str_sid"] = std::to_string(i);
+    sent["out_mapProgramWithSourceID"][i / 100]["program_source_id"] = std::to_string(1000 + i / 100);
+    sent["out_mapProgramWithSourceID"][i / 100]["program_array"][i % 100]["title"] = std::to_string(i);
   }
-  TestService::Reply("GetFullChannelList", Compact(channels));
-  TestService::Reply("GetProgramMap", Compact(programs));
+  TestService::Reply("*", Compact(sent));
   std::vector<FCRemoteChannel> list;
   ProgramMap map;
   mso.GetFullChannelList(kAct, list);
   mso.GetProgramMap(kAct, ids, 0, 0, filter, map);
-  FCMarshal::ChannelListToJson(list, listForm);
-  FCMarshal::ProgramMapToJson(map, mapForm);
-  EXPECT_EQ(Text(listForm) + Text(mapForm), Text(channels) + Text(programs));
+  FCMarshal::ChannelListToJson(list, back);
+  FCMarshal::ProgramMapToJson(map, back);
+  EXPECT_EQ(Text(back), Text(sent));
 }
 
 }  // namespace
