@@ -26,6 +26,9 @@
 #include "MBRNetworkChannel.h"
 #include "MBRNetworkChannelTable.h"
 
+// Broadcast channel records
+#include "FCRFNetworkChannelTable.h"
+
 // Virtual channel records
 #include "FCVirtualProgramData.h"
 
@@ -43,5 +46,6 @@
 #include "FCRemoteContent_MSOAPI.h"
 #include "FCVirtualChannelsAPI.h"
 #include "FIMatchFinder.h"
+#include "RFNetworkChannelManager_Proxy.h"
 
 #endif

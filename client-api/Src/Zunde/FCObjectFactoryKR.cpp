@@ -3,6 +3,7 @@
 #include "FCMatchFinder_Proxy.h"
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
 #include "FCRemoteContentOnTV_Proxy.h"
+#include "RFNetworkChannelManager_Proxy.h"
 
 // Defined beside the concrete factory, so that the entry knows no proxy.
 FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
@@ -10,7 +11,7 @@ FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
   return m_pInstance;
 }
 
-FCRFNetworkChannelAPI* FCObjectFactoryKR::GetRFNetworkChannelManager() { return nullptr; }
+FCRFNetworkChannelAPI* FCObjectFactoryKR::GetRFNetworkChannelManager() { return new FCRFNetworkChannelManager_Proxy; }
 
 FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { return nullptr; }
 
