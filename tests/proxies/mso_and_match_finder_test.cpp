@@ -49,9 +49,10 @@ namespace {
 using namespace zunde::testing;
 using Mso = FCRemoteContentOnTV_MSO_Proxy;
 using Finder = FCMatchFinder_Proxy;
-using ProgramMap = std::map<std::string, std::vector<FCRemoteProgram> >;
-using Timeline = std::map<int, std::map<int, FCSmartChannelGuide> >;
-using FutureTimeline = std::map<int, std::map<int, FCSmartChannelGuide_Future> >;
+using ProgramMap = Mine<std::map<std::string, std::vector<FCRemoteProgram> > >;
+using Guides = Mine<std::list<FCSmartChannelGuide> >;
+using Timeline = Mine<std::map<int, std::map<int, FCSmartChannelGuide> > >;
+using FutureTimeline = Mine<std::map<int, std::map<int, FCSmartChannelGuide_Future> > >;
 const auto kAct = static_cast<eRemoteContentActivity>(3);
 const unsigned long long kMaxId = 18446744073709551615ULL;
 
@@ -110,7 +111,7 @@ const ProxyCase kMsoCases[] = {
         "genre id list":"","rep id":"","rec id":""})", R"({"ret":true,"out_mapProgramWithSourceID":[
         {"program_source_id":"p","program_array":[{"title":"A"},{"title":"B"}]},{"program_source_id":"p"}]})",
         R"({p: [{"title":"A"}, {"title":"B"}]})",
-        CALL(Mso, Mine<ProgramMap>(), GetProgramMap(kAct, ids, 1700000000, 60, filter, out))),
+        CALL(Mso, ProgramMap(), GetProgramMap(kAct, ids, 1700000000, 60, filter, out))),
     Row(kMso, "ActivateProgramGuide", R"({"activityID":3})", kRet, "", SEND(ActivateProgramGuide(kAct))),
     Row(kMso, "DeactivateProgramGuide", R"({"activityID":3})", kRet, "", SEND(DeactivateProgramGuide(kAct))),
     Row(kMso, "LoadAdditionalProgramMapFromServer", R"({"activityID":3,"utc_starttime":4000000000,"duration":60,
@@ -128,16 +129,16 @@ const ProxyCase kMsoCases[] = {
     Row(kMso, "GetRecommendationOnNow", R"({"activityID":3,"current_watching_program_source_id":"p",
         "utc_currenttime":1,"number_of_recommendation":5,"genre id list":"","rec id":""})", kGuide,
         R"([{"sequence":2,"str_name":"N"}])",
-        CALL(Mso, Mine<std::list<FCSmartChannelGuide>>(), GetRecommendationOnNow(kAct, "p", 1, 5, filter, out))),
+        CALL(Mso, Guides(), GetRecommendationOnNow(kAct, "p", 1, 5, filter, out))),
     Row(kMso, "GetRecommendationUpcomming", R"({"activityID":3,"utc_currenttime":1,"number_of_recommendation":5,
         "genre id list":"","rec id":""})", kGuide, R"([{"sequence":2,"str_name":"N"}])",
-        CALL(Mso, Mine<std::list<FCSmartChannelGuide>>(), GetRecommendationUpcomming(kAct, 1, 5, filter, out))),
+        CALL(Mso, Guides(), GetRecommendationUpcomming(kAct, 1, 5, filter, out))),
     Row(kMso, "GetRecommendationTimeline", R"({"activityID":3,"utc_currenttime":1,"from_timeslot":1,"to_timeslot":2})",
         R"({"ret":true,"out_timeline":[{"time_slot")" + kSlot, R"({1: {0: {"str_name":"N"}}})",
-        CALL(Mso, Mine<Timeline>(), GetRecommendationTimeline(kAct, 1, 1, 2, out))),
+        CALL(Mso, Timeline(), GetRecommendationTimeline(kAct, 1, 1, 2, out))),
     Row(kMso, "GetRecommendationFutureTimeline", R"({"activityID":3,"from_dayslot":1,"to_dayslot":2})",
         R"({"ret":true,"out_future_timeline":[{"day_slot")" + kSlot, R"({1: {0: {"str_name":"N"}}})",
-        CALL(Mso, Mine<FutureTimeline>(), GetRecommendationFutureTimeline(kAct, 1, 2, out))),
+        CALL(Mso, FutureTimeline(), GetRecommendationFutureTimeline(kAct, 1, 2, out))),
     Row(kMso, "GetFCRemoteProgramByProgramSourceID", R"({"activityID":3,"program source id":"p","utc current time":1})",
         R"({"ret":true,"title":"T"})", R"({"title":"T"})",
         CALL(Mso, Mine<FCRemoteProgram>(), GetFCRemoteProgramByProgramSourceID(kAct, "p", 1, out))),
