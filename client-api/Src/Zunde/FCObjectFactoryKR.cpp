@@ -1,5 +1,7 @@
 #include "FCObjectFactoryKR.h"
 
+#include "FCMatchFinder_Proxy.h"
+#include "FCRemoteContentOnTV_MSO_Proxy.h"
 #include "FCRemoteContentOnTV_Proxy.h"
 #include "RFNetworkChannelManager_Proxy.h"
 
@@ -15,8 +17,8 @@ FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { retur
 
 FCRemoteContentAPI* FCObjectFactoryKR::GetRemoteContentAPI() { return new FCRemoteContentOnTV_Proxy; }
 
-FCRemoteContent_MSOAPI* FCObjectFactoryKR::GetRemoteContentMSOAPI() { return nullptr; }
+FCRemoteContent_MSOAPI* FCObjectFactoryKR::GetRemoteContentMSOAPI() { return new FCRemoteContentOnTV_MSO_Proxy; }
 
-FIMatchFinder* FCObjectFactoryKR::GetMatchFinder() { return nullptr; }
+FIMatchFinder* FCObjectFactoryKR::GetMatchFinder() { return new FCMatchFinder_Proxy; }
 
 FCVirtualChannelsAPI* FCObjectFactoryKR::GetVirtualChannelsAPI() { return nullptr; }

@@ -91,6 +91,43 @@ class FCMarshal {
   static bool JsonToProgramMap(Json::Value& root, std::map<std::string, std::vector<FCRemoteProgram> >& programs);
 
   // --- operator remote content requests (FCMarshal_RemoteContentMSO.cpp) ---
+  // The requests' scalars sit flat beside "activityID", which the proxy
+  // writes first. Reading a list of source ids appends to the caller's.
+  // "sourceIDArray" (strings, left out when empty), "utc start time",
+  // "duration" (ints), and the filter's "genre id list", "rep id", "rec id".
+  static bool SourceIDListAndUtcStartTimeAndDurationAndFCFilterCriteriaToJson(std::vector<std::string>& sourceIds,
+                                                                              int utcStartTime, int duration,
+                                                                              FCFilterCriteria& filter,
+                                                                              Json::Value& root);
+  static bool JsonToSourceIDListAndUtcStartTimeAndDurationAndFCFilterCriteria(Json::Value& root,
+                                                                              std::vector<std::string>& sourceIds,
+                                                                              int& utcStartTime, int& duration,
+                                                                              FCFilterCriteria& filter);
+  // "utc_starttime" (unsigned), "duration" (int), "sourceIDArray"
+  static bool SourceIDListAndUtcStartTimeAndDurationToJson(std::vector<std::string>& sourceIds,
+                                                           unsigned long utcStartTime, int duration, Json::Value& root);
+  static bool JsonToSourceIDListAndUtcStartTimeAndDuration(Json::Value& root, std::vector<std::string>& sourceIds,
+                                                           unsigned long& utcStartTime, int& duration);
+  // "utc_current_time" (unsigned): the activation and RF search requests.
+  static bool UtcCurrentTimeToJson(unsigned long utcCurrentTime, Json::Value& root);
+  static bool JsonToUtcCurrentTime(Json::Value& root, unsigned long& utcCurrentTime);
+  // "program source id" (string), "utc current time" (unsigned)
+  static bool ProgramSourceIDAndUtcCurrentTimeToJson(std::string programSourceId, unsigned long utcCurrentTime,
+                                                     Json::Value& root);
+  static bool JsonToProgramSourceIDAndUtcCurrentTime(Json::Value& root, std::string& programSourceId,
+                                                     unsigned long& utcCurrentTime);
+  // "program source id" (string)
+  static bool ProgramSourceIDToJson(std::string programSourceId, Json::Value& root);
+  static bool JsonToProgramSourceID(Json::Value& root, std::string& programSourceId);
+  // "activityID" (int), "mbr ch number" (string), "utc current time"
+  // (unsigned, spelt with blanks unlike the RF search's key)
+  static bool MBRChannelAndUTCCurrentTimeToJson(eRemoteContentActivity activity, std::string const& channelNumber,
+                                                unsigned long utcCurrentTime, Json::Value& root);
+  static bool JsonToMBRChannelAndUTCCurrentTime(Json::Value& root, eRemoteContentActivity& activity,
+                                                std::string& channelNumber, unsigned long& utcCurrentTime);
+  // "search string" (string)
+  static bool SearchStringToJson(std::string& searchString, Json::Value& root);
+  static bool JsonToSearchString(Json::Value& root, std::string& searchString);
 
   // --- match finder (FCMarshal_MatchFinder.cpp) ---
   // The id as decimal text under "TCServiceId". Writing consumes the id: the
