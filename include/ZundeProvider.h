@@ -40,6 +40,7 @@
 #include "FCRemoteContentTypes.h"
 #include "FCRemoteContent_MSOAPI.h"
 #include "FCVirtualChannelsAPI.h"
+#include "FCVirtualChannels_Proxy.h"
 #include "FIMatchFinder.h"
 
 #endif

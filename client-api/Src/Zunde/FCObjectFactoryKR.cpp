@@ -1,6 +1,7 @@
 #include "FCObjectFactoryKR.h"
 
 #include "FCRemoteContentOnTV_Proxy.h"
+#include "FCVirtualChannels_Proxy.h"
 
 // Defined beside the concrete factory, so that the entry knows no proxy.
 FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
@@ -18,4 +19,4 @@ FCRemoteContent_MSOAPI* FCObjectFactoryKR::GetRemoteContentMSOAPI() { return nul
 
 FIMatchFinder* FCObjectFactoryKR::GetMatchFinder() { return nullptr; }
 
-FCVirtualChannelsAPI* FCObjectFactoryKR::GetVirtualChannelsAPI() { return nullptr; }
+FCVirtualChannelsAPI* FCObjectFactoryKR::GetVirtualChannelsAPI() { return new FCVirtualChannels_Proxy; }
