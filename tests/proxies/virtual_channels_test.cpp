@@ -25,15 +25,12 @@ static std::string OutputText(const FCVirtualConfig& c) { return c.GetChPosition
 namespace {
 
 using namespace zunde::testing;
+using Prog = FCVirtualProgramData;
+using Id = FCVirtualProgramId;
 
 std::string Styled(const std::string& json) { return Json::StyledWriter().write(Parsed(json)); }
-const std::string kId = R"("program_id": {"TCServiceId": "7", "event_id": "e1", "start_time": 100, "duration": 60})";
-FCVirtualProgramId SampleId() {
-  FCVirtualProgramId id;
-  Json::Value json = Parsed("{" + kId + "}");
-  FCVirtualProgramId::FromJson(json, id);
-  return id;
-}
+// The JSON form of a default programme id.
+const std::string kId = R"("program_id": {"TCServiceId": "0", "event_id": "", "start_time": 0, "duration": 0})";
 const std::string kDash = "-";
 // A default programme for the service 7.
 const std::string kOnDemand =
@@ -78,12 +75,10 @@ ProxyCase Bracketed(const std::string& member, const std::string& start, std::fu
 
 // The download id is the result; shown as an output, which a failed call (0) leaves as it was.
 bool ImageInto(P& p, long& id, std::string& path) {
-  if (long got = p.GetProgramImage(SampleId(), P::EProgramLogoType(1), path)) id = got;
+  if (long got = p.GetProgramImage(Id(), P::EProgramLogoType(1), path)) id = got;
   return false;
 }
 
-using Prog = FCVirtualProgramData;
-using Id = FCVirtualProgramId;
 const std::string kIdOnly = "{" + kId + "}";
 const ProxyCase kCases[] = {
     // The map is not cleared, and of two programmes under one key the later stays.
@@ -91,28 +86,28 @@ const ProxyCase kCases[] = {
         R"({"ret": true, "virtual_program_map": [{"key": 1, "title": "a"}, {"key": 1, "title": "b"}]})", "{1: b, 5: }",
         Observe<P>([](P& p, ProgramMap& m) { return p.GetProgramList(7, 100, 3600, m); }, ProgramMap{{5, {}}})),
     Row("GetProgramWithIndicator", R"({"program_indicator": 2, )" + kId + "}", R"({"ret": true, "title": "N"})", "N",
-        Observe<P>([](P& p, Prog& o) { return p.GetProgram(EProgramIndicator(2), SampleId(), o); }, Prog())),
+        Observe<P>([](P& p, Prog& o) { return p.GetProgram(EProgramIndicator(2), Id(), o); }, Prog())),
     Row("GetProgram", kIdOnly, R"({"ret": true, "title": "N"})", "N",
-        Observe<P>([](P& p, Prog& o) { return p.GetProgram(SampleId(), o); }, Prog())),
+        Observe<P>([](P& p, Prog& o) { return p.GetProgram(Id(), o); }, Prog())),
     Row("GetPresentProgram", R"({"TCServiceId": "7"})", R"({"ret": true, "title": "N"})", "N",
         Observe<P>([](P& p, Prog& o) { return p.GetPresentProgram(7, o); }, Prog())),
     Row("GetChannelLogo", R"({"TCServiceId": "7", "logoSize": 2})", R"({"ret": true, "channelLogo": "l"})", "l",
         Observe<P>([](P& p, std::string& l) { return p.GetChannelLogo(7, P::EChannelLogoSize(2), l); }, kDash)),
     Row("GetProgramThumbnail", kIdOnly, R"({"ret": true, "programLogo": "t"})", "t",
-        Observe<P>([](P& p, std::string& l) { return p.GetProgramThumbnail(SampleId(), l); }, kDash)),
+        Observe<P>([](P& p, std::string& l) { return p.GetProgramThumbnail(Id(), l); }, kDash)),
     Row("GetProgramImage", "{" + kId + R"(, "programLogoType": 1})", R"({"imageDownloadId": "42", "programLogo": "i"})",
         "42 | i", Observe<P>(ImageInto, -9L, kDash), false),
     Row("GetProgramBackground", kIdOnly, R"({"ret": true, "programLogo": "b"})", "b",
-        Observe<P>([](P& p, std::string& l) { return p.GetProgramBackground(SampleId(), l); }, kDash)),
+        Observe<P>([](P& p, std::string& l) { return p.GetProgramBackground(Id(), l); }, kDash)),
     Row("SetOnDemandProgram", kOnDemand, R"({"ret": true, "program_id": {"TCServiceId": "7", "event_id": "e9"}})",
         "TCServiceId: 7\nid: e9\nstart_time: 0\nduration: 0\n",
         Observe<P>([](P& p, Id& id) { return p.SetOnDemandProgram(7, Prog(), &id); }, Id())),
     Row("SetOnDemandProgram_NullId", kOnDemand, R"({"ret": true})", "",
         Observe<P>([](P& p) { return p.SetOnDemandProgram(7, Prog(), nullptr); }), true, "SetOnDemandProgram"),
     Row("UnsetOnDemandProgram", kIdOnly, R"({"ret": true})", "",
-        Observe<P>([](P& p) { return p.UnsetOnDemandProgram(SampleId()); })),
-    Row("GetOnDemandIdentifier", R"({"TCServiceId": "7"})", "{\"ret\": true, " + kId + "}",
-        "TCServiceId: 7\nid: e1\nstart_time: 100\nduration: 60\n",
+        Observe<P>([](P& p) { return p.UnsetOnDemandProgram(Id()); })),
+    Row("GetOnDemandIdentifier", R"({"TCServiceId": "7"})", R"({"ret": true, "program_id": {"start_time": 100}})",
+        "TCServiceId: 0\nid: \nstart_time: 100\nduration: 0\n",
         Observe<P>([](P& p, Id& id) { return p.GetOnDemandIdentifier(7, id); }, Id())),
     Row("GetVCConfig", "null", R"({"ret": true, "ch_position": {"position": "p"}, "vc_banner": {"vc_to_tv": "b"}})",
         "p,b", Observe<P>([](P& p, FCVirtualConfig& c) { return p.GetVCConfig(c); }, FCVirtualConfig())),
