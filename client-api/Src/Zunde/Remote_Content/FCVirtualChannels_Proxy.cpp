@@ -31,13 +31,6 @@ constexpr int kFeatureKPIType = 0;
 
 zunde::RemoteCall Call(const char* member) { return zunde::RemoteCall(kLines, member); }
 
-// The time range of a programme list: "start_time", "duration" (unsigned).
-bool TimeRangeToJson(unsigned int startTime, unsigned int duration, Json::Value& root) {
-  root["start_time"] = startTime;
-  root["duration"] = duration;
-  return true;
-}
-
 // The on-demand slot's id is wanted only when the caller gives a place for it.
 bool JsonToOptionalProgramId(Json::Value& root, FCVirtualProgramId* id) {
   return id == nullptr || FCMarshal::JsonToVirtualProgramId(root, *id);
@@ -54,30 +47,21 @@ bool FCVirtualChannels_Proxy::RemoteCallWithStringArguments(const char* method, 
 
 bool FCVirtualChannels_Proxy::RemoteCallWithJsonArguments(const char* method, const Json::Value& in,
                                                           Json::Value& out) {
-  return zunde::CallWithJsonArguments(
-      kLines, method, in, out,
-      [this](const char* member, const std::string& request, std::string& reply) {
-        return RemoteCallWithStringArguments(member, request, reply);
-      });
+  return zunde::CallWithJsonArguments(kLines, method, in, out, RemoteCallWithStringArguments);
 }
 
 bool FCVirtualChannels_Proxy::ParseReturnValue(const std::string& reply) {
   return zunde::ParseReturnValue(kOutputNotJson, reply);
 }
 
-std::function<bool(const char*, const Json::Value&, Json::Value&)> FCVirtualChannels_Proxy::JsonStep() {
-  return [this](const char* member, const Json::Value& request, Json::Value& reply) {
-    return RemoteCallWithJsonArguments(member, request, reply);
-  };
-}
-
 bool FCVirtualChannels_Proxy::GetProgramList(unsigned long long const& serviceId, unsigned int startTime,
                                              unsigned int duration,
                                              std::map<unsigned int, FCVirtualProgramData>& programs) {
   return Call("GetProgramList")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VCServiceIdToJson, serviceId)
-      .Writes(TimeRangeToJson, startTime, duration)
+      .Writes(FCMarshal::StartTimeToJson, startTime)
+      .Writes(FCMarshal::DurationToJson, duration)
       .Reads(FCMarshal::JsonToVirtualProgramMap, programs)
       .Run();
 }
@@ -89,7 +73,7 @@ bool FCVirtualChannels_Proxy::GetProgramList(std::string const& in, std::string&
 bool FCVirtualChannels_Proxy::GetProgram(EProgramIndicator indicator, FCVirtualProgramId const& id,
                                          FCVirtualProgramData& program) {
   return Call("GetProgramWithIndicator")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::EProgramIndicatorToJson, indicator)
       .Writes(FCMarshal::VirtualProgramIdToJson, id)
       .Reads(FCMarshal::JsonToVirtualProgramData, program)
@@ -98,7 +82,7 @@ bool FCVirtualChannels_Proxy::GetProgram(EProgramIndicator indicator, FCVirtualP
 
 bool FCVirtualChannels_Proxy::GetProgram(FCVirtualProgramId const& id, FCVirtualProgramData& program) {
   return Call("GetProgram")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VirtualProgramIdToJson, id)
       .Reads(FCMarshal::JsonToVirtualProgramData, program)
       .Run();
@@ -117,7 +101,7 @@ bool FCVirtualChannels_Proxy::GetProgram(std::string const& in, std::string& out
 
 bool FCVirtualChannels_Proxy::GetPresentProgram(unsigned long long const& serviceId, FCVirtualProgramData& program) {
   return Call("GetPresentProgram")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VCServiceIdToJson, serviceId)
       .Reads(FCMarshal::JsonToVirtualProgramData, program)
       .Run();
@@ -130,7 +114,7 @@ bool FCVirtualChannels_Proxy::GetPresentProgram(std::string const& in, std::stri
 bool FCVirtualChannels_Proxy::GetChannelLogo(unsigned long long const& serviceId, EChannelLogoSize size,
                                              std::string& logo) {
   return Call("GetChannelLogo")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VCServiceIdToJson, serviceId)
       .Writes(FCMarshal::LogoSizeToJson, size)
       .Reads(FCMarshal::JsonToChannelLogo, logo)
@@ -143,7 +127,7 @@ bool FCVirtualChannels_Proxy::GetChannelLogo(std::string const& in, std::string&
 
 bool FCVirtualChannels_Proxy::GetProgramThumbnail(FCVirtualProgramId const& id, std::string& logo) {
   return Call("GetProgramThumbnail")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VirtualProgramIdToJson, id)
       .Reads(FCMarshal::JsonToProgramLogo, logo)
       .Run();
@@ -158,12 +142,12 @@ long FCVirtualChannels_Proxy::GetProgramImage(FCVirtualProgramId const& id, EPro
                                               std::string& path) {
   long downloadId = 0;
   Call("GetProgramImage")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VirtualProgramIdToJson, id)
       .Writes(FCMarshal::ProgramLogoTypeToJson, type)
       .Reads(FCMarshal::JsonToImageDownloadId, downloadId)
       .Reads(FCMarshal::JsonToProgramLogo, path)
-      .Run();
+      .RunIgnoringRet();
   return downloadId;
 }
 
@@ -181,7 +165,7 @@ long FCVirtualChannels_Proxy::GetProgramImage(std::string const& in, std::string
 
 bool FCVirtualChannels_Proxy::GetProgramBackground(FCVirtualProgramId const& id, std::string& logo) {
   return Call("GetProgramBackground")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VirtualProgramIdToJson, id)
       .Reads(FCMarshal::JsonToProgramLogo, logo)
       .Run();
@@ -194,7 +178,7 @@ bool FCVirtualChannels_Proxy::GetProgramBackground(std::string const& in, std::s
 bool FCVirtualChannels_Proxy::SetOnDemandProgram(unsigned long long const& serviceId,
                                                  FCVirtualProgramData const& program, FCVirtualProgramId* id) {
   return Call("SetOnDemandProgram")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VCServiceIdToJson, serviceId)
       .Writes(FCMarshal::VirtualProgramDataToJson, program)
       .Reads(JsonToOptionalProgramId, id)
@@ -206,7 +190,7 @@ bool FCVirtualChannels_Proxy::SetOnDemandProgram(std::string const& in, std::str
 }
 
 bool FCVirtualChannels_Proxy::UnsetOnDemandProgram(FCVirtualProgramId id) {
-  return Call("UnsetOnDemandProgram").Through(JsonStep()).Writes(FCMarshal::VirtualProgramIdToJson, id).Run();
+  return Call("UnsetOnDemandProgram").Through(RemoteCallWithJsonArguments).Writes(FCMarshal::VirtualProgramIdToJson, id).Run();
 }
 
 bool FCVirtualChannels_Proxy::UnsetOnDemandProgram(std::string const& in, std::string& out) {
@@ -215,7 +199,7 @@ bool FCVirtualChannels_Proxy::UnsetOnDemandProgram(std::string const& in, std::s
 
 bool FCVirtualChannels_Proxy::GetOnDemandIdentifier(unsigned long long const& serviceId, FCVirtualProgramId& id) {
   return Call("GetOnDemandIdentifier")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VCServiceIdToJson, serviceId)
       .Reads(FCMarshal::JsonToVirtualProgramId, id)
       .Run();
@@ -227,7 +211,7 @@ bool FCVirtualChannels_Proxy::GetOnDemandIdentifier(std::string const& in, std::
 
 // No writers: the request is the null document, "null".
 bool FCVirtualChannels_Proxy::GetVCConfig(FCVirtualConfig& config) {
-  return Call("GetVCConfig").Through(JsonStep()).Reads(FCMarshal::JsonToVirtualConfig, config).Run();
+  return Call("GetVCConfig").Through(RemoteCallWithJsonArguments).Reads(FCMarshal::JsonToVirtualConfig, config).Run();
 }
 
 bool FCVirtualChannels_Proxy::GetVCConfig(std::string const& in, std::string& out) {
@@ -237,7 +221,7 @@ bool FCVirtualChannels_Proxy::GetVCConfig(std::string const& in, std::string& ou
 bool FCVirtualChannels_Proxy::GetFeaturedVirtualChannelInfo(unsigned long long const& serviceId,
                                                             FCVirtualChannelInfo& info) {
   return Call("GetFeaturedVirtualChannelInfo")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::VCServiceIdToJson, serviceId)
       .Reads(FCMarshal::JsonToVirtualChannelInfo, info)
       .Run();
@@ -251,7 +235,7 @@ bool FCVirtualChannels_Proxy::GetServiceIdFromOnTVProviderAndService(std::string
                                                                      std::string const& serviceId,
                                                                      unsigned long long& out) {
   return Call("GetServiceIdFromOnTVProviderAndService")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::OnTvProviderIdToJson, providerId)
       .Writes(FCMarshal::OnTvServiceIdToJson, serviceId)
       .Reads(FCMarshal::VCJsonToServiceId, out)
@@ -291,12 +275,12 @@ bool FCVirtualChannels_Proxy::SendLogKPI(EKPIType type, std::string& eventName, 
     return false;
   }
   return Call("SendLogKPI")
-      .Through(JsonStep())
+      .Through(RemoteCallWithJsonArguments)
       .Writes(FCMarshal::KPIInfoToJson, type, eventName, category, desc)
       .Run();
 }
 
-bool FCVirtualChannels_Proxy::GetViewingAgreement() { return Call("GetViewingAgreement").Through(JsonStep()).Run(); }
+bool FCVirtualChannels_Proxy::GetViewingAgreement() { return Call("GetViewingAgreement").Through(RemoteCallWithJsonArguments).Run(); }
 
 bool FCVirtualChannels_Proxy::Reset() {
   FC_LOG_INFO_MOD(0, "[FCConnectedContent_Proxy::%s] reset start\n", __func__);

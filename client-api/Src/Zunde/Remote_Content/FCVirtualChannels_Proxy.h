@@ -11,7 +11,6 @@
 
 #include <json/forwards.h>
 
-#include <functional>
 #include <map>
 #include <string>
 
@@ -60,14 +59,11 @@ class FCVirtualChannels_Proxy : public FCVirtualChannelsAPI {
  private:
   // The steps every operation is made of; their lines name the D-Bus member.
   // The request text to `method`; true when the service answered, its reply text in `out`.
-  bool RemoteCallWithStringArguments(const char* method, const std::string& in, std::string& out);
+  static bool RemoteCallWithStringArguments(const char* method, const std::string& in, std::string& out);
   // The request written as JSON text, then the reply parsed into `out`.
-  bool RemoteCallWithJsonArguments(const char* method, const Json::Value& in, Json::Value& out);
+  static bool RemoteCallWithJsonArguments(const char* method, const Json::Value& in, Json::Value& out);
   // The "ret" of a reply text; false when it does not parse.
-  bool ParseReturnValue(const std::string& reply);
-
-  // RemoteCallWithJsonArguments as the transport of a typed operation.
-  std::function<bool(const char*, const Json::Value&, Json::Value&)> JsonStep();
+  static bool ParseReturnValue(const std::string& reply);
 };
 
 #endif
