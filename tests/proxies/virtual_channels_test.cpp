@@ -38,18 +38,17 @@ const std::string kOnDemand =
         "poster": {"index": "", "url": ""}, "program_data": {"TCServiceId": "0"}, "relative_offset": -1,
         "short_desc": "", "starttime": "1970-01-01T00:00:00Z", "title": ""})";
 
-// SendLogKPI of `type` with the platform files holding the disclaimer setting
-// and the feature capability; the files are this process's own.
+// The platform files of this process, holding the disclaimer setting and the
+// feature capability that SendLogKPI reads at each call.
+const std::string kSetting = "/tmp/zunde-setting-" + std::to_string(getpid()), kCapability = kSetting + "-capability";
 bool SendKPI(P& p, int type, const std::string& disclaimer = "1", const std::string& feature = "true") {
-  const std::string files[] = {"/tmp/zunde-setting-" + std::to_string(getpid()),
-                               "/tmp/zunde-capability-" + std::to_string(getpid())};
-  std::ofstream(files[0]) << "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=" << disclaimer;
-  std::ofstream(files[1]) << "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=" << feature;
-  setenv("ZUNDE_VCONF_FILE", files[0].c_str(), 1);
-  setenv("ZUNDE_SYSTEM_INFO_FILE", files[1].c_str(), 1);
+  std::ofstream(kSetting) << "db/menu/corvina/homedatacontrol/defaultdisclaimeragree=" << disclaimer;
+  std::ofstream(kCapability) << "SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=" << feature;
+  setenv("ZUNDE_VCONF_FILE", kSetting.c_str(), 1);
+  setenv("ZUNDE_SYSTEM_INFO_FILE", kCapability.c_str(), 1);
   std::string event = "ev", category = "cat", desc = "d";
   const bool sent = p.SendLogKPI(static_cast<P::EKPIType>(type), event, category, desc);
-  for (const std::string& file : files) std::remove(file.c_str());
+  for (const std::string* file : {&kSetting, &kCapability}) std::remove(file->c_str());
   return sent;
 }
 
