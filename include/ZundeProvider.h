@@ -53,6 +53,7 @@
 #include "FCRemoteContentTypes.h"
 #include "FCRemoteContent_MSOAPI.h"
 #include "FCVirtualChannelsAPI.h"
+#include "FCVirtualChannels_Proxy.h"
 #include "FIMatchFinder.h"
 #include "RFNetworkChannelManager_Proxy.h"
 

@@ -3,6 +3,7 @@
 #include "FCMatchFinder_Proxy.h"
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
 #include "FCRemoteContentOnTV_Proxy.h"
+#include "FCVirtualChannels_Proxy.h"
 #include "RFNetworkChannelManager_Proxy.h"
 
 // Defined beside the concrete factory, so that the entry knows no proxy.
@@ -21,4 +22,4 @@ FCRemoteContent_MSOAPI* FCObjectFactoryKR::GetRemoteContentMSOAPI() { return new
 
 FIMatchFinder* FCObjectFactoryKR::GetMatchFinder() { return new FCMatchFinder_Proxy; }
 
-FCVirtualChannelsAPI* FCObjectFactoryKR::GetVirtualChannelsAPI() { return nullptr; }
+FCVirtualChannelsAPI* FCObjectFactoryKR::GetVirtualChannelsAPI() { return new FCVirtualChannels_Proxy; }

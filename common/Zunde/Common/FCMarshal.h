@@ -20,6 +20,7 @@
 #include "CZundeResponse.h"
 #include "FCElementData.h"
 #include "FCSmartChannelGuide.h"
+#include "FCVirtualChannelsAPI.h"
 #include "FCVirtualProgramData.h"
 #include "MBRNetworkChannel.h"
 #include "MBRNetworkChannelTable.h"
@@ -256,6 +257,49 @@ class FCMarshal {
   static bool VCServiceIdToJson(unsigned long long id, Json::Value& root);
   // Reads "TCServiceId" back as a base-10 number; 0 when absent.
   static bool VCJsonToServiceId(Json::Value& root, unsigned long long& id);
+  // The enumerations as signed numbers: "program_indicator", "logoSize",
+  // "programLogoType"; 0 when absent.
+  static bool EProgramIndicatorToJson(EProgramIndicator indicator, Json::Value& root);
+  static bool JsonToEProgramIndicator(Json::Value& root, EProgramIndicator& indicator);
+  static bool LogoSizeToJson(FCVirtualChannelsAPI::EChannelLogoSize size, Json::Value& root);
+  static bool JsonToLogoSize(Json::Value& root, FCVirtualChannelsAPI::EChannelLogoSize& size);
+  static bool ProgramLogoTypeToJson(FCVirtualChannelsAPI::EProgramLogoType type, Json::Value& root);
+  static bool JsonToProgramLogoType(Json::Value& root, FCVirtualChannelsAPI::EProgramLogoType& type);
+  // Strings, "" when absent: "channelLogo", "programLogo", "onTvProviderId",
+  // "onTvServiceId".
+  static bool ChannelLogoToJson(std::string const& logo, Json::Value& root);
+  static bool JsonToChannelLogo(Json::Value& root, std::string& logo);
+  static bool ProgramLogoToJson(std::string const& logo, Json::Value& root);
+  static bool JsonToProgramLogo(Json::Value& root, std::string& logo);
+  static bool OnTvProviderIdToJson(std::string const& providerId, Json::Value& root);
+  static bool JsonToOnTvProviderId(Json::Value& root, std::string& providerId);
+  static bool OnTvServiceIdToJson(std::string const& serviceId, Json::Value& root);
+  static bool JsonToOnTvServiceId(Json::Value& root, std::string& serviceId);
+  // "imageDownloadId": decimal text, read base 10; 0 when absent.
+  static bool ImageDownloadIdToJson(long id, Json::Value& root);
+  static bool JsonToImageDownloadId(Json::Value& root, long& id);
+  // "KPIType" (int), "EventName", "Category", "desc" (strings).
+  static bool KPIInfoToJson(FCVirtualChannelsAPI::EKPIType type, std::string& eventName, std::string& category,
+                            std::string& desc, Json::Value& root);
+  static bool JsonToKPIInfo(Json::Value& root, FCVirtualChannelsAPI::EKPIType& type, std::string& eventName,
+                            std::string& category, std::string& desc);
+  // The records in their own JSON forms: the id nested under "program_id",
+  // the programme, configuration and channel info flat in `root`.
+  static bool VirtualProgramIdToJson(FCVirtualProgramId const& id, Json::Value& root);
+  static bool JsonToVirtualProgramId(Json::Value& root, FCVirtualProgramId& id);
+  static bool VirtualProgramDataToJson(FCVirtualProgramData const& program, Json::Value& root);
+  static bool JsonToVirtualProgramData(Json::Value& root, FCVirtualProgramData& program);
+  static bool VirtualConfigToJson(FCVirtualConfig const& config, Json::Value& root);
+  static bool JsonToVirtualConfig(Json::Value& root, FCVirtualConfig& config);
+  static bool VirtualChannelInfoToJson(FCVirtualChannelInfo const& info, Json::Value& root);
+  static bool JsonToVirtualChannelInfo(Json::Value& root, FCVirtualChannelInfo& info);
+  // "virtual_program_map": programmes in ascending key order, each with its
+  // map key under "key"; left out when the map is empty. Reading assigns each
+  // element to the entry of its "key" (a repeated key keeps the later one)
+  // and leaves the other entries of the caller's map as they were.
+  static bool VirtualProgramMapToJson(std::map<unsigned int, FCVirtualProgramData> const& programs,
+                                      Json::Value& root);
+  static bool JsonToVirtualProgramMap(Json::Value& root, std::map<unsigned int, FCVirtualProgramData>& programs);
 };
 
 #endif

@@ -15,8 +15,9 @@ typedef enum {
   SYSTEM_INFO_ERROR_NOT_SUPPORTED = -134
 } system_info_error_e;
 
+/* Keys carry the platform's own numbers. */
 typedef enum {
-  SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT = 0
+  SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT = 383
 } system_info_key_e;
 
 /* Reads a boolean capability. Returns SYSTEM_INFO_ERROR_NONE and sets *value

@@ -4,6 +4,7 @@
 
 namespace {
 
+// Keys are the platform's numbers; the capability file names them.
 const char* KeyName(system_info_key_e key) {
   switch (key) {
     case SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT:
