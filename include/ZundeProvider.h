@@ -41,5 +41,6 @@
 #include "FCRemoteContent_MSOAPI.h"
 #include "FCVirtualChannelsAPI.h"
 #include "FIMatchFinder.h"
+#include "MBRNetworkChannelManager_Proxy.h"
 
 #endif

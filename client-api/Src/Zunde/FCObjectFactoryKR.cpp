@@ -1,6 +1,7 @@
 #include "FCObjectFactoryKR.h"
 
 #include "FCRemoteContentOnTV_Proxy.h"
+#include "MBRNetworkChannelManager_Proxy.h"
 
 // Defined beside the concrete factory, so that the entry knows no proxy.
 FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
@@ -10,7 +11,7 @@ FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
 
 FCRFNetworkChannelAPI* FCObjectFactoryKR::GetRFNetworkChannelManager() { return nullptr; }
 
-FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { return nullptr; }
+FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { return new FCMBRNetworkChannelManager_Proxy; }
 
 FCRemoteContentAPI* FCObjectFactoryKR::GetRemoteContentAPI() { return new FCRemoteContentOnTV_Proxy; }
 
