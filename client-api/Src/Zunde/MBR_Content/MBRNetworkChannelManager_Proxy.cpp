@@ -55,8 +55,9 @@ bool FCMBRNetworkChannelManager_Proxy::Reset() {
 
 bool FCMBRNetworkChannelManager_Proxy::AllocateActivityIDBySourceID(int source, EActivityID& activity) {
   if (source == -1) {
-    FC_LOG_RAW_MOD(LOG_ID_MAIN, DLOG_WARN, 2,
-                   "FCMBRNetworkChannelManager_Proxy::AllocateActivityIDBySourceID() return false. source is invalid!\n");
+    FC_LOG_RAW_MOD(
+        LOG_ID_MAIN, DLOG_WARN, 2,
+        "FCMBRNetworkChannelManager_Proxy::AllocateActivityIDBySourceID() return false. source is invalid!\n");
     return false;
   }
   return Call("AllocateActivityIDBySourceID")
@@ -218,8 +219,9 @@ bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelMap(EActivityID activ
                                                                FCMBRNetworkChannelAPI::EMBRNetworkChannelQuery query) {
   return Call("GetMBRNetworkChannelMap")
       .Require(InRange(activity))
-      .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelMap(), activityID : %d, queryType : %d\n"),
-             activity, query)
+      .Entry(
+          ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelMap(), activityID : %d, queryType : %d\n"),
+          activity, query)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::QueryTypeToJson, query)
       .Reads(FCMarshal::JsonToMBRNetworkChannelTable, table)

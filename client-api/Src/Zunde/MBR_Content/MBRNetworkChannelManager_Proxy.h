@@ -40,8 +40,8 @@ class FCMBRNetworkChannelManager_Proxy : public FCMBRNetworkChannelAPI {
   // Both unchecked.
   bool GetCurrentMBRNetworkProgram(EActivityID activity, FCMBRNetworkChannel& channel,
                                    FCMBRNetworkProgram& program) override;
-  bool GetCurrentMBRNetworkProgrambyCurrentTime(EActivityID activity, unsigned long time,
-                                                FCMBRNetworkChannel& channel, FCMBRNetworkProgram& program) override;
+  bool GetCurrentMBRNetworkProgrambyCurrentTime(EActivityID activity, unsigned long time, FCMBRNetworkChannel& channel,
+                                                FCMBRNetworkProgram& program) override;
   bool SetMBRNetworkChannelMap(EActivityID activity, FCMBRNetworkChannelTable& table) override;
   // Appends the service's channels to `table`.
   bool GetMBRNetworkChannelMap(EActivityID activity, FCMBRNetworkChannelTable& table,
@@ -75,7 +75,8 @@ class FCMBRNetworkChannelManager_Proxy : public FCMBRNetworkChannelAPI {
   bool SetEditedMBRNetworkChannel(EActivityID activity, FCMBRNetworkChannel& channel) override;
   bool NotifyMBRChannelEditCompleted(EActivityID activity) override;
   bool GetMBRNetworkChannelByChannelIDOriginMajor(EActivityID activity, std::string const& channelId,
-                                                  std::string const& originMajor, FCMBRNetworkChannel& channel) override;
+                                                  std::string const& originMajor,
+                                                  FCMBRNetworkChannel& channel) override;
 
   // The zip code as a number: not offered, false at once.
   virtual bool SetZipCode(EActivityID activity, int zipCode);
