@@ -5,8 +5,16 @@
 #define ZUNDE_PROVIDER_H
 
 // Task runtime
+#include "FCAlarm.h"
 #include "FCDebug.h"
 #include "FCError.h"
+#include "FCHandler.h"
+#include "FCList.h"
+#include "FCQueue.h"
+#include "FCStateAlarm.h"
+#include "FCSyncDet.h"
+#include "FCTask.h"
+#include "FCTaskList.h"
 #include "FCThread.h"
 #include "FCTimeWapper.h"
 
@@ -26,6 +34,9 @@
 #include "MBRNetworkChannel.h"
 #include "MBRNetworkChannelTable.h"
 
+// Broadcast channel records
+#include "FCRFNetworkChannelTable.h"
+
 // Virtual channel records
 #include "FCVirtualProgramData.h"
 
@@ -42,5 +53,6 @@
 #include "FCVirtualChannelsAPI.h"
 #include "FIMatchFinder.h"
 #include "MBRNetworkChannelManager_Proxy.h"
+#include "RFNetworkChannelManager_Proxy.h"
 
 #endif

@@ -1,11 +1,10 @@
-// Records with every field set to a value of its own, so that a key carrying
-// the wrong field shows, and ways to look at their JSON.
+// Records read from their JSON forms, every field holding a value of its
+// own, and ways to look at their JSON.
 #ifndef ZUNDE_TESTS_RECORD_SAMPLES_H
 #define ZUNDE_TESTS_RECORD_SAMPLES_H
 
 #include <json/json.h>
 
-#include <initializer_list>
 #include <string>
 
 #include "FCElementData.h"
@@ -24,77 +23,53 @@ Json::Value Written(Record record) {
   return value;
 }
 
-// Sets the string fields to prefix1, prefix2, ... in the order given.
+// `json` read into `read`, which is then written again.
 template <class Record>
-void Number(Record& record, const char* prefix, std::initializer_list<std::string Record::*> fields) {
-  int n = 0;
-  for (std::string Record::*field : fields) record.*field = prefix + std::to_string(++n);
+std::string Reread(Json::Value json, Record read = Record()) {
+  Record::FromJson(json, read);
+  return Compact(Written(read));
 }
 
-inline FCRemoteChannel Channel() {
-  using C = FCRemoteChannel;
-  C c;
-  Number(c, "c",
-         {&C::str_program_source_id, &C::str_channel_name, &C::str_channel_number, &C::str_alias, &C::str_major,
-          &C::str_minor, &C::str_onid, &C::str_tsid, &C::str_sid, &C::str_frequency, &C::str_ptc, &C::str_icon_url,
-          &C::str_url_index, &C::str_dtv, &C::str_digital_flag, &C::str_qam_flag, &C::genre_id, &C::genre_name,
-          &C::ac_rank});
-  c.activityID = 2;
-  c.embed = 5;
-  return c;
+template <class Record>
+Record Read(const std::string& json) {
+  Record record;
+  Json::Value value = Parsed(json);
+  Record::FromJson(value, record);
+  return record;
 }
 
-inline FCRemoteChannelKey ChannelKey() {
-  FCRemoteChannelKey k;
-  Channel().GetKey(k);
-  return k;
+// `text` with every `from` replaced by `to`, as compact JSON text.
+inline std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+  for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+    text.replace(at, from.size(), to);
+  return Compact(Parsed(text));
 }
 
-inline FCRemoteProgram Program() {
-  using P = FCRemoteProgram;
-  P p;
-  Number(p, "p",
-         {&P::str_program_source_id, &P::str_channel_name, &P::str_channel_number, &P::str_program_id, &P::str_lang,
-          &P::str_starttime, &P::strTitle, &P::str_cert_flag, &P::str_poster_url, &P::str_poster_type,
-          &P::str_poster_overlay, &P::str_poster_index, &P::str_short_desc, &P::desc});
-  p.activityID = 1;
-  p.utc_starttime = 1456864200;
-  p.duration = 1800;
-  p.genre_array = {"1", "2"};
-  p.EndTime = 4000001800u;  // beyond the int range: written unsigned
-  p.IsRF = true;
-  return p;
-}
+// The genre name is read from "genre name": written, it reads back empty.
+const char kChannel[] = R"({"activityID": 2, "str_program_source_id": "c1", "str_channel_name": "c2",
+    "str_channel_number": "c3", "str_alias": "c4", "str_major": "c5", "str_minor": "c6", "str_onid": "c7",
+    "str_tsid": "c8", "str_sid": "c9", "str_frequency": "c10", "str_ptc": "c11", "str_icon_url": "c12",
+    "str_url_index": "c13", "str_dtv": "c14", "embed": 5, "str_digital_flag": "c15", "str_qam_flag": "c16",
+    "genre id": "c17", "gere name": "", "ac_rank": "c18"})";
 
-// Either guide entry but for its slot, which the caller sets.
-template <class G>
-G GuideEntry(int sequence) {
-  G g;
-  Number(g, "g",
-         {&G::str_program_source_id, &G::str_rec_type, &G::str_name, &G::str_number, &G::str_starttime,
-          &G::str_content_id, &G::str_content_lang, &G::str_content_season_seq, &G::str_content_episode_seq,
-          &G::str_content_title, &G::str_content_year, &G::str_content_type, &G::str_content_missed,
-          &G::str_content_cert_flag, &G::str_content_poster_url, &G::str_content_poster_type,
-          &G::str_content_poster_overlay, &G::str_content_poster_index});
-  g.activityID = 4;
-  g.sequence = sequence;
-  g.utc_starttime = 4000000000u;  // beyond the int range: read as unsigned
-  g.duration = 3600;
-  g.content_genre_array = {"4", "9"};
-  return g;
-}
+// An end time beyond the int range: written and read unsigned.
+const char kProgram[] = R"({"activityID": 1, "program source id": "p1", "channel name": "p2",
+    "channel number": "p3", "program id": "p4", "lang": "p5", "start time": "p6", "utc start time": 1456864200,
+    "duration": 1800, "title": "p7", "cert flag": "p8", "genre array": ["1", "2"], "poster url": "p9",
+    "poster type": "p10", "poster overlay": "p11", "poster index": "p12", "short desc": "p13",
+    "EndTime": 4000001800, "IsRF": true, "desc": "p14"})";
 
-inline FCSmartChannelGuide Guide(int timeslot = 3, int sequence = 1) {
-  FCSmartChannelGuide g = GuideEntry<FCSmartChannelGuide>(sequence);
-  g.timeslot = timeslot;
-  return g;
-}
+// A start beyond the int range: written and read unsigned.
+const char kGuide[] = R"({"activityID": 4, "timeslot": 3, "sequence": 1, "str_program_source_id": "g1",
+    "str_rec_type": "g2", "str_name": "g3", "str_number": "g4", "str_starttime": "g5", "utc_starttime": 4000000000,
+    "duration": 3600, "str_content_id": "g6", "str_content_lang": "g7", "str_content_season_seq": "g8",
+    "str_content_episode_seq": "g9", "str_content_title": "g10", "str_content_year": "g11", "str_content_type": "g12",
+    "str_content_missed": "g13", "str_content_cert_flag": "g14", "content_genre_array": ["4", "9"],
+    "str_content_poster_url": "g15", "str_content_poster_type": "g16", "str_content_poster_overlay": "g17",
+    "str_content_poster_index": "g18"})";
 
-inline FCSmartChannelGuide_Future FutureGuide(int dayslot = 2, int sequence = 1) {
-  FCSmartChannelGuide_Future g = GuideEntry<FCSmartChannelGuide_Future>(sequence);
-  g.dayslot = dayslot;
-  return g;
-}
+inline FCRemoteProgram Program() { return Read<FCRemoteProgram>(kProgram); }
+inline FCSmartChannelGuide Guide() { return Read<FCSmartChannelGuide>(kGuide); }
 
 }  // namespace samples
 

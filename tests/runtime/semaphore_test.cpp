@@ -1,162 +1,82 @@
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <chrono>
+#include <functional>
+#include <future>
 #include <thread>
 
 #include "FCThread.h"
 
 namespace {
 
-// A semaphore made for one test and destroyed with it.
-class CountedSemaphore {
- public:
-  explicit CountedSemaphore(int count) { EXPECT_TRUE(semaphore.Create(count)); }
-  ~CountedSemaphore() {
-    if (semaphore.FlagCreate()) semaphore.Destroy();
+void OnFourThreads(const std::function<void()>& body) {
+  std::thread threads[4];
+  for (auto& thread : threads) thread = std::thread(body);
+  for (auto& thread : threads) thread.join();
+}
+
+// All ones is for ever: Try then waits like Take.
+TEST(Semaphore, TryTakesAUnitAtOnceWithinItsTimeOrForever) {
+  FCSemaphore semaphore;
+  ASSERT_TRUE(semaphore.Create(1));
+  EXPECT_TRUE(semaphore.Try(0));
+  EXPECT_FALSE(semaphore.Try(0));
+  EXPECT_FALSE(semaphore.Try(20));
+  for (unsigned long ms : {60 * 1000UL, 0xFFFFFFFFUL}) {
+    std::thread giver([&] { semaphore.Give(); });
+    EXPECT_TRUE(semaphore.Try(ms)) << ms;
+    giver.join();
   }
-  FCSemaphore semaphore;
-};
-
-constexpr unsigned long kForever = 0xFFFFFFFFUL;
-
-TEST(Semaphore, CreateAndDestroySetTheFlag) {
-  FCSemaphore semaphore;
-  EXPECT_FALSE(semaphore.FlagCreate());
-  ASSERT_TRUE(semaphore.Create(0));
-  EXPECT_TRUE(semaphore.FlagCreate());
+  EXPECT_FALSE(semaphore.Try(0));
   semaphore.Destroy();
-  EXPECT_FALSE(semaphore.FlagCreate());
 }
 
-TEST(Semaphore, TryZeroAnswersAtOnce) {
-  CountedSemaphore counted(1);
-  EXPECT_TRUE(counted.semaphore.Try(0));
-  EXPECT_FALSE(counted.semaphore.Try(0));
-  counted.semaphore.Give();
-  EXPECT_TRUE(counted.semaphore.Try(0));
+// Every Take waits for a Give of some thread; a lost count would hang one.
+TEST(Semaphore, CountsEveryGiveAndTakeOfConcurrentThreads) {
+  FCSemaphore semaphore;
+  ASSERT_TRUE(semaphore.Create(0));
+  OnFourThreads([&] {
+    for (int i = 0; i < 250; ++i) semaphore.Give();
+    for (int i = 0; i < 250; ++i) semaphore.Take();
+  });
+  EXPECT_FALSE(semaphore.Try(0));
+  semaphore.Destroy();
 }
 
-TEST(Semaphore, TryWithATimeOutGivesUpWhenNoUnitComes) {
-  CountedSemaphore counted(0);
-  EXPECT_FALSE(counted.semaphore.Try(20));
+TEST(SemaphoreDeathTest, CreatingTwiceOrDestructingWithoutDestroyEndsTheProcess) {
+  EXPECT_DEATH([] { FCSemaphore s; s.Create(0); s.Create(0); }(), "");
+  EXPECT_DEATH([] { FCSemaphore s; s.Create(0); }(), "");
 }
 
-TEST(Semaphore, TryWithATimeOutTakesAUnitGivenMeanwhile) {
-  CountedSemaphore counted(0);
-  std::thread giver([&] { counted.semaphore.Give(); });
-  EXPECT_TRUE(counted.semaphore.Try(60 * 1000));
-  giver.join();
-}
-
-TEST(Semaphore, TryForeverWaitsLikeTake) {
-  CountedSemaphore counted(0);
-  std::atomic<bool> taken{false};
-  std::thread taker([&] { taken = counted.semaphore.Try(kForever); });
-  counted.semaphore.Give();
-  taker.join();
-  EXPECT_TRUE(taken);
-  EXPECT_FALSE(counted.semaphore.Try(0));
-}
-
-TEST(Semaphore, CountsEveryGive) {
-  CountedSemaphore counted(0);
-  const int kThreads = 4;
-  const int kGivesEach = 250;
-  std::thread givers[kThreads];
-  for (auto& giver : givers) {
-    giver = std::thread([&] {
-      for (int i = 0; i < kGivesEach; ++i) counted.semaphore.Give();
-    });
-  }
-  for (int i = 0; i < kThreads * kGivesEach; ++i) counted.semaphore.Take();
-  for (auto& giver : givers) giver.join();
-  EXPECT_FALSE(counted.semaphore.Try(0));
-}
-
-TEST(SemaphoreDeathTest, MisuseEndsTheProcess) {
-  EXPECT_DEATH(
-      {
-        FCSemaphore semaphore;
-        semaphore.Take();
-      },
-      "");
-  EXPECT_DEATH(
-      {
-        FCSemaphore semaphore;
-        semaphore.Create(0);
-        semaphore.Create(0);
-      },
-      "");
-  EXPECT_DEATH(
-      {
-        FCSemaphore semaphore;
-        semaphore.Create(0);
-      },  // destructed without Destroy
-      "");
-}
-
-// With `mutex` held once by the caller: another thread must wait for the
-// caller's last Unlock before it gets the lock.
-void ExpectOtherThreadWaitsForTheLastUnlock(FCMutex& mutex) {
-  std::atomic<bool> acquired{false};
-  std::thread other([&] {
+// Locked twice and unlocked once, and unlocked by a thread that does not own
+// it, the mutex is still held: another thread waits for the last Unlock.
+TEST(Mutex, OwnerLocksAgainOnlyTheOwnerUnlocksAndConcurrentThreadsTakeTurns) {
+  FCMutex mutex;
+  ASSERT_TRUE(mutex.Create());
+  mutex.Lock();
+  mutex.Lock();
+  mutex.Unlock();
+  std::thread([&] { mutex.Unlock(); }).join();
+  auto other = std::async(std::launch::async, [&] {
     mutex.Lock();
-    acquired = true;
     mutex.Unlock();
   });
-  EXPECT_FALSE(acquired);
+  EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
   mutex.Unlock();
-  other.join();
-  EXPECT_TRUE(acquired);
-}
+  other.get();
 
-TEST(Mutex, OwnerMayLockAgainAndMustUnlockAsOften) {
-  FCMutex mutex;
-  ASSERT_TRUE(mutex.Create());
-  mutex.Lock();
-  mutex.Lock();
-  mutex.Unlock();
-  ExpectOtherThreadWaitsForTheLastUnlock(mutex);
-  mutex.Destroy();
-}
-
-TEST(Mutex, UnlockByAnotherThreadDoesNothing) {
-  FCMutex mutex;
-  ASSERT_TRUE(mutex.Create());
-  mutex.Lock();
-  std::thread([&] { mutex.Unlock(); }).join();
-  ExpectOtherThreadWaitsForTheLastUnlock(mutex);
-  mutex.Destroy();
-}
-
-TEST(Mutex, KeepsACounterConsistentAcrossThreads) {
-  FCMutex mutex;
-  ASSERT_TRUE(mutex.Create());
   int counter = 0;
-  std::thread workers[4];
-  for (auto& worker : workers) {
-    worker = std::thread([&] {
-      for (int i = 0; i < 500; ++i) {
-        mutex.Lock();
-        mutex.Lock();
-        ++counter;
-        mutex.Unlock();
-        mutex.Unlock();
-      }
-    });
-  }
-  for (auto& worker : workers) worker.join();
+  OnFourThreads([&] {
+    for (int i = 0; i < 500; ++i) {
+      mutex.Lock();
+      mutex.Lock();
+      ++counter;
+      mutex.Unlock();
+      mutex.Unlock();
+    }
+  });
   EXPECT_EQ(counter, 2000);
   mutex.Destroy();
-}
-
-TEST(MutexDeathTest, LockBeforeCreateEndsTheProcess) {
-  EXPECT_DEATH(
-      {
-        FCMutex mutex;
-        mutex.Lock();
-      },
-      "");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "FCRemoteContentOnTV_Proxy.h"
 #include "MBRNetworkChannelManager_Proxy.h"
+#include "RFNetworkChannelManager_Proxy.h"
 
 // Defined beside the concrete factory, so that the entry knows no proxy.
 FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
@@ -9,7 +10,7 @@ FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
   return m_pInstance;
 }
 
-FCRFNetworkChannelAPI* FCObjectFactoryKR::GetRFNetworkChannelManager() { return nullptr; }
+FCRFNetworkChannelAPI* FCObjectFactoryKR::GetRFNetworkChannelManager() { return new FCRFNetworkChannelManager_Proxy; }
 
 FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { return new FCMBRNetworkChannelManager_Proxy; }
 

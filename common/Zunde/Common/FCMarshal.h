@@ -217,6 +217,39 @@ class FCMarshal {
   static bool JsonToChannelIdMajor(Json::Value& root, std::string& channelId, std::string& originMajor);
 
   // --- broadcast channels (FCMarshal_RFNetwork.cpp) ---
+  // The service id travels as "TCServiceId" (VCServiceIdToJson and its
+  // reader, below), the representative genres as "out_array_rep_genre"
+  // (RepGenreListToJson, above).
+  // "navigation mode" (int): an FCRFNetworkChannelAPI::ENavigationMode value.
+  static bool NavigationModeToJson(int mode, Json::Value& root);
+  static bool JsonToNavigationMode(Json::Value& root, int& mode);
+  // "genre" (string)
+  static bool GenreToJson(std::string const& genre, Json::Value& root);
+  static bool JsonToGenre(Json::Value& root, std::string& genre);
+  // "count" (int)
+  static bool CountToJson(int count, Json::Value& root);
+  static bool JsonToCount(Json::Value& root, int& count);
+  // "start_time" and "duration" (unsigned)
+  static bool StartTimeToJson(unsigned long startTime, Json::Value& root);
+  static bool JsonToStartTime(Json::Value& root, unsigned long& startTime);
+  static bool DurationToJson(unsigned int duration, Json::Value& root);
+  static bool JsonToDuration(Json::Value& root, unsigned int& duration);
+  // Each array member below is left out when its container is empty.
+  // "service list": one {"TCServiceId": text} per id, in table order. Ids
+  // are written by TCServiceIdToJson, so writing leaves every id of the
+  // table at 0. Reading appends to `table` (FCRFNetworkChannelTable.h).
+  static bool RFNetworkChannelTableToJson(class FCRFNetworkChannelTable& table, Json::Value& root);
+  static bool JsonToRFNetworkChannelTable(Json::Value& root, class FCRFNetworkChannelTable& table);
+  // "channel count map": {"count": n, "genre": g} per genre, ascending.
+  // Reading inserts into `counts`: a genre already there, or met earlier,
+  // keeps its count.
+  static bool CountMapToJson(std::map<std::string, int>& counts, Json::Value& root);
+  static bool JsonToCountMap(Json::Value& root, std::map<std::string, int>& counts);
+  // "meta_program_map": programme objects in ascending key order, each with
+  // its map key under "key" (unsigned). Reading stores each programme under
+  // its key, replacing one already there.
+  static bool MetaProgramMapToJson(std::map<unsigned int, FCRemoteProgram>& programs, Json::Value& root);
+  static bool JsonToMetaProgramMap(Json::Value& root, std::map<unsigned int, FCRemoteProgram>& programs);
 
   // --- virtual channels (FCMarshal_VirtualChannels.cpp) ---
   // A service id as decimal text under "TCServiceId".

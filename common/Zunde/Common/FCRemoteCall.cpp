@@ -4,6 +4,7 @@
 #include "FCIPCNames_internal.h"
 #include "FCMarshal.h"
 #include "FCMessageBuffer.h"
+#include "FCSlowCall_internal.h"
 
 namespace zunde {
 namespace {
@@ -24,6 +25,7 @@ bool TransmitText(const CallLogLines& lines, const LogSite& site, const char* su
   FCMessageBuffer requestBuffer;
   FCMessageBuffer replyBuffer;
   requestBuffer.PushConcatenated(request.length(), const_cast<char*>(request.data()));
+  const SlowCallWatch watch(member);
   if (connection->Call(std::string(bus::kCallListener), member, requestBuffer, replyBuffer) == -1) {
     WriteLogLine(lines.sendFailed, site, subject);
     return false;
@@ -74,25 +76,34 @@ bool RemoteCall::Parse(std::string& text, Json::Value& root) {
   return false;
 }
 
-bool RemoteCall::Finish(Json::Value& root) {
-  const bool result = root["ret"].asBool();
-  for (const auto& read : readers_) read(root);
-  return result;
-}
-
-bool RemoteCall::Run() {
+bool RemoteCall::Exchange(Json::Value& reply) {
   if (rejected_) return false;
-  Json::Value reply;
   if (transport_) {
     Json::Value request;
     for (const auto& write : writers_) write(request);
-    if (!transport_(member_, request, reply)) return false;
-    return Finish(reply);
+    return transport_(member_, request, reply);
   }
   std::string replyText;
-  if (!Transmit(WriteRequest(), replyText)) return false;
-  if (!Parse(replyText, reply)) return false;
-  return Finish(reply);
+  return Transmit(WriteRequest(), replyText) && Parse(replyText, reply);
+}
+
+void RemoteCall::ReadOutputs(Json::Value& reply) {
+  for (const auto& read : readers_) read(reply);
+}
+
+bool RemoteCall::Run() {
+  Json::Value reply;
+  if (!Exchange(reply)) return false;
+  const bool result = reply["ret"].asBool();
+  ReadOutputs(reply);
+  return result;
+}
+
+bool RemoteCall::RunIgnoringRet() {
+  Json::Value reply;
+  if (!Exchange(reply)) return false;
+  ReadOutputs(reply);
+  return true;
 }
 
 bool RemoteCall::Send() {

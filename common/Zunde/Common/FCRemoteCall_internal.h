@@ -84,6 +84,9 @@ class RemoteCall {
 
   // The typed call: the reply's "ret", or false on failure.
   bool Run();
+  // The typed call for replies whose "ret" means nothing: true when the
+  // reply parsed, the readers having filled the outputs.
+  bool RunIgnoringRet();
   // The call without looking at the reply: true when the service answered.
   bool Send();
   // The pass-through call: the caller's text goes as it stands, and the
@@ -94,7 +97,9 @@ class RemoteCall {
   std::string WriteRequest() const;
   bool Transmit(const std::string& request, std::string& reply);
   bool Parse(std::string& text, Json::Value& root);
-  bool Finish(Json::Value& root);
+  // Sends the request and parses the reply into `reply`; false on failure.
+  bool Exchange(Json::Value& reply);
+  void ReadOutputs(Json::Value& reply);
 
   const CallLogLines& lines_;
   const char* member_;
