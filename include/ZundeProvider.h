@@ -55,6 +55,7 @@
 #include "FCVirtualChannelsAPI.h"
 #include "FCVirtualChannels_Proxy.h"
 #include "FIMatchFinder.h"
+#include "MBRNetworkChannelManager_Proxy.h"
 #include "RFNetworkChannelManager_Proxy.h"
 
 #endif

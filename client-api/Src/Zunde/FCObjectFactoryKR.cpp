@@ -4,6 +4,7 @@
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
 #include "FCRemoteContentOnTV_Proxy.h"
 #include "FCVirtualChannels_Proxy.h"
+#include "MBRNetworkChannelManager_Proxy.h"
 #include "RFNetworkChannelManager_Proxy.h"
 
 // Defined beside the concrete factory, so that the entry knows no proxy.
@@ -14,7 +15,7 @@ FCBrisvelObjectFactory* FCBrisvelObjectFactory::GetInstance() {
 
 FCRFNetworkChannelAPI* FCObjectFactoryKR::GetRFNetworkChannelManager() { return new FCRFNetworkChannelManager_Proxy; }
 
-FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { return nullptr; }
+FCMBRNetworkChannelAPI* FCObjectFactoryKR::GetMBRNetworkChannelManager() { return new FCMBRNetworkChannelManager_Proxy; }
 
 FCRemoteContentAPI* FCObjectFactoryKR::GetRemoteContentAPI() { return new FCRemoteContentOnTV_Proxy; }
 

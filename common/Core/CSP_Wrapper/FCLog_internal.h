@@ -51,6 +51,32 @@ struct LogLine {
 
 void WriteLogLine(const LogLine& line, const LogSite& site, const char* subject = nullptr);
 
+// The log buffer and priority a line goes to.
+struct LogTarget {
+  log_id_t id;
+  int priority;
+};
+LogTarget TargetOf(LogPriority priority);
+
+// Writes `line` with arguments of its own after the prefix numbers, in place
+// of the name: for lines that carry numbers or texts, as in
+// "[%d][%d]SetZipCode(), activityId(%d)\n".
+template <typename... Args>
+void WriteLogLineWith(const LogLine& line, const LogSite& site, Args... args) {
+  const LogTarget target = TargetOf(line.priority);
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+#pragma GCC diagnostic ignored "-Wformat-security"
+  if (line.prefix == LogPrefix::DebugLevel) {
+    __dlog_print(target.id, target.priority, kLogTag, line.format, site.file, site.function, site.line, line.level,
+                 args...);
+  } else {
+    __dlog_print(target.id, target.priority, kLogTag, line.format, site.file, site.function, site.line,
+                 kLogModuleNumber, line.level, args...);
+  }
+#pragma GCC diagnostic pop
+}
+
 // Lines in the two prefix forms, for `LogLine` tables:
 //   FC_LINE_LV("[FCAPI::%s] called\n") is the "DBG_LV" form's format.
 #define FC_LINE_LV(text) FC_LOG_PREFIX_LV text

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "FCMBRNetworkChannelAPI.h"
 #include "FCRemoteContentTypes.h"
 
 // --- record headers (begin) ---
@@ -216,6 +217,42 @@ class FCMarshal {
   static bool JsonToMBRProgramTable(Json::Value& root, FCMBRNetworkProgramTable& table);
 
   // --- set-top-box channel manager requests (FCMarshal_MBRManager.cpp) ---
+  // The members of the channel manager's requests and replies; a member
+  // missing from a reply reads as 0 or the empty string. The records and
+  // tables travel through the pairs above.
+  // "activityID" (int)
+  static bool EactivityIDToJson(FCMBRNetworkChannelAPI::EActivityID activity, Json::Value& root);
+  static bool JsonToEactivityID(Json::Value& root, FCMBRNetworkChannelAPI::EActivityID& activity);
+  // "source" (int)
+  static bool SourceToJson(int source, Json::Value& root);
+  static bool JsonToSource(Json::Value& root, int& source);
+  // "headend id", "zip code", "device type", "location" (strings)
+  static bool HeadEndIDToJson(std::string const& headEndId, Json::Value& root);
+  static bool JsonToHeadEndID(Json::Value& root, std::string& headEndId);
+  static bool ZipCodeToJson(std::string const& zipCode, Json::Value& root);
+  static bool JsonToZipCode(Json::Value& root, std::string& zipCode);
+  static bool DeviceTypeToJson(std::string const& deviceType, Json::Value& root);
+  static bool JsonToDeviceType(Json::Value& root, std::string& deviceType);
+  static bool LocationToJson(std::string const& location, Json::Value& root);
+  static bool JsonToLocation(Json::Value& root, std::string& location);
+  // "query type" (int)
+  static bool QueryTypeToJson(FCMBRNetworkChannelAPI::EMBRNetworkChannelQuery query, Json::Value& root);
+  static bool JsonToQueryType(Json::Value& root, FCMBRNetworkChannelAPI::EMBRNetworkChannelQuery& query);
+  // "current time" (unsigned)
+  static bool CurrentTimeToJson(unsigned long time, Json::Value& root);
+  static bool JsonToCurrentTime(Json::Value& root, unsigned long& time);
+  // "channelID" (string)
+  static bool ChannelIDToJson(std::string const& channelId, Json::Value& root);
+  static bool JsonToChannelID(Json::Value& root, std::string& channelId);
+  // "favorite" (int)
+  static bool EFavoriteToJson(FCMBRNetworkChannel::EFavorite favorite, Json::Value& root);
+  static bool JsonToEFavorite(Json::Value& root, FCMBRNetworkChannel::EFavorite& favorite);
+  // "major", "minor" (ints)
+  static bool MajorMinorToJson(int major, int minor, Json::Value& root);
+  static bool JsonToMajorMinor(Json::Value& root, int& major, int& minor);
+  // "channel id", "major" (strings: here the origin major travels as text)
+  static bool ChannelIdMajorToJson(std::string const& channelId, std::string const& originMajor, Json::Value& root);
+  static bool JsonToChannelIdMajor(Json::Value& root, std::string& channelId, std::string& originMajor);
 
   // --- broadcast channels (FCMarshal_RFNetwork.cpp) ---
   // The service id travels as "TCServiceId" (VCServiceIdToJson and its

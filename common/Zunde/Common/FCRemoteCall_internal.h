@@ -10,7 +10,8 @@
 //   }
 //
 // Entry() and Require() act at once, in the order written, so a method says
-// whether its entry line comes before or after its checks. Writers and
+// whether its entry line comes before or after its checks; an entry line may
+// carry numbers of its own: Entry(line, activity). Writers and
 // readers run inside Run(): the request root is built from the writers in
 // order and written with Json::StyledWriter (no writers: the request buffer
 // stays empty); the reply's "ret" is the result, and the readers fill the
@@ -55,6 +56,12 @@ class RemoteCall {
   RemoteCall& Entry();
   // Writes `line` as the entry line instead of the family's.
   RemoteCall& Entry(const LogLine& line);
+  // Writes `line`, whose own arguments are `args`, as the entry line.
+  template <typename... Args>
+  RemoteCall& Entry(const LogLine& line, Args... args) {
+    if (!rejected_) WriteLogLineWith(line, site_, args...);
+    return *this;
+  }
   // A failed check makes the call return false at once, sending nothing.
   RemoteCall& Require(bool check);
   // Asks the connection to connect before the call.
