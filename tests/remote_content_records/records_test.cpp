@@ -11,11 +11,8 @@ using namespace samples;
 
 namespace {
 
-struct FormCase {
-  const char* name;
-  std::string (*reread)(const std::string& json);
-  std::string json;
-};
+// Each text is read into a default record and written again.
+struct FormCase { const char* name; std::string (*reread)(const std::string& json); std::string json; };
 
 const char kMSOConfigDefault[] = R"({"config": {"strHeadend": "", "strDeviceType": "", "strZipCode": "",
     "source": -1, "antennaMode": -1, "serviceMode": -1, "str_additional_info_with_json_format": ""}})";
@@ -109,11 +106,8 @@ TEST(ProgramDeathTest, AValueThatDoesNotConvertEndsTheProcessAfterALine) {
                "DBG_LV\\[0\\]\\[FCRemoteProgram::FromJson\\] Exception Caught");
 }
 
-struct FilterCase {
-  const char *name, *recId, *genreIdList;  // the rep id is left empty
-  std::vector<std::string> genres;
-  bool satisfied;
-};
+// The filter's rep id is left empty.
+struct FilterCase { const char *name, *recId, *genreIdList; std::vector<std::string> genres; bool satisfied; };
 
 const FilterCase kFilters[] = {
     {"NoFilterTakesAll", "", ",1,", {"9"}, true},
