@@ -23,19 +23,18 @@ Json::Value Written(Record record) {
   return value;
 }
 
-// `json` read into `read`, which is then written again.
-template <class Record>
-std::string Reread(Json::Value json, Record read = Record()) {
-  Record::FromJson(json, read);
-  return Compact(Written(read));
-}
-
 template <class Record>
 Record Read(const std::string& json) {
   Record record;
   Json::Value value = Parsed(json);
   Record::FromJson(value, record);
   return record;
+}
+
+// `json` read into a default record, then written again.
+template <class Record>
+std::string Reread(const std::string& json) {
+  return Compact(Written(Read<Record>(json)));
 }
 
 // `text` with every `from` replaced by `to`, as compact JSON text.
