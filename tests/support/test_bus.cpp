@@ -12,7 +12,6 @@ namespace zunde::testing {
 namespace {
 
 pid_t daemonPid = -1;
-std::string busAddress;
 
 }  // namespace
 
@@ -24,16 +23,13 @@ void TestBus::Start() {
     std::perror("dbus-daemon");
   });
   daemonPid = daemon.pid;
-  busAddress = daemon.firstLine;
-  if (busAddress.empty()) {
+  if (daemon.firstLine.empty()) {
     std::fprintf(stderr, "test bus: dbus-daemon printed no address\n");
     std::exit(2);
   }
-  setenv("DBUS_SYSTEM_BUS_ADDRESS", busAddress.c_str(), 1);
+  setenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine.c_str(), 1);
 }
 
 void TestBus::Stop() { StopChild(daemonPid); }
-
-const std::string& TestBus::Address() { return busAddress; }
 
 }  // namespace zunde::testing
