@@ -15,7 +15,6 @@
 namespace {
 
 using zunde::testing::LogCapture;
-using zunde::testing::ServiceTest;
 using zunde::testing::TestService;
 using Texts = std::vector<std::string>;
 
@@ -37,7 +36,7 @@ void DispatchUntil(size_t count) {
   for (int i = 0; i < 100; ++i) g_main_context_iteration(nullptr, FALSE);
 }
 
-class Events : public ServiceTest {
+class Events : public zunde::testing::ServiceTest {
  protected:
   void SetUp() override {
     ServiceTest::SetUp();
