@@ -4,23 +4,26 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
+
 namespace zunde::testing {
 
-StartedChild StartChild(const std::function<void(int writeFd)>& exec) {
+StartedChild StartChild(std::vector<const char*> argv) {
   StartedChild child;
   int pipeFds[2];
   if (pipe(pipeFds) != 0) return child;
   child.pid = fork();
   if (child.pid == 0) {
+    dup2(pipeFds[1], STDOUT_FILENO);
     close(pipeFds[0]);
-    exec(pipeFds[1]);
+    close(pipeFds[1]);
+    argv.push_back(nullptr);
+    execvp(argv[0], const_cast<char* const*>(argv.data()));
+    std::perror(argv[0]);
     _exit(127);
   }
   close(pipeFds[1]);
-  if (child.pid > 0) {
-    char c;
-    while (read(pipeFds[0], &c, 1) == 1 && c != '\n') child.firstLine += c;
-  }
+  for (char c; child.pid > 0 && read(pipeFds[0], &c, 1) == 1 && c != '\n';) child.firstLine += c;
   close(pipeFds[0]);
   return child;
 }

@@ -1,12 +1,12 @@
-// Helper processes of the tests: started with a pipe on which they announce
-// themselves with one line, and ended again.
+// Helper processes of the tests: started with their standard output on a
+// pipe, on which they announce themselves with one line, and ended again.
 #ifndef ZUNDE_TESTS_CHILD_PROCESS_H
 #define ZUNDE_TESTS_CHILD_PROCESS_H
 
 #include <sys/types.h>
 
-#include <functional>
 #include <string>
+#include <vector>
 
 namespace zunde::testing {
 
@@ -15,9 +15,9 @@ struct StartedChild {
   std::string firstLine;   // empty when the child wrote none
 };
 
-// Forks; the child runs `exec` with the write end of a pipe (it must not
-// return); the parent reads the first line the child writes on it.
-StartedChild StartChild(const std::function<void(int writeFd)>& exec);
+// Runs the program `argv[0]` (looked up in PATH) with `argv` and reads the
+// first line it writes on its standard output.
+StartedChild StartChild(std::vector<const char*> argv);
 
 // Ends a child started above and reaps it.
 void StopChild(pid_t& pid);

@@ -1,10 +1,9 @@
 #include "test_bus.h"
 
-#include <unistd.h>
+#include <sys/types.h>
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 #include "child_process.h"
 
@@ -16,12 +15,8 @@ pid_t daemonPid = -1;
 }  // namespace
 
 void TestBus::Start() {
-  const StartedChild daemon = StartChild([](int writeFd) {
-    const std::string printAddress = "--print-address=" + std::to_string(writeFd);
-    execlp("dbus-daemon", "dbus-daemon", "--config-file=" ZUNDE_TEST_BUS_CONFIG, "--nofork", "--nopidfile",
-           printAddress.c_str(), static_cast<char*>(nullptr));
-    std::perror("dbus-daemon");
-  });
+  const StartedChild daemon = StartChild(
+      {"dbus-daemon", "--config-file=" ZUNDE_TEST_BUS_CONFIG, "--nofork", "--nopidfile", "--print-address"});
   daemonPid = daemon.pid;
   if (daemon.firstLine.empty()) {
     std::fprintf(stderr, "test bus: dbus-daemon printed no address\n");

@@ -1,9 +1,9 @@
 #include "test_service.h"
 
 #include <dbus/dbus.h>
-#include <unistd.h>
+#include <sys/types.h>
 
-#include <cstdio>
+#include <cstdarg>
 #include <cstdlib>
 
 #include "child_process.h"
@@ -14,43 +14,22 @@ namespace {
 
 pid_t servicePid = -1;
 
-// A control argument sent as an array of bytes rather than as a string.
-struct Bytes {
-  const std::string& data;
-};
-
-void Append(DBusMessageIter* args, const std::string& text) {
-  const char* chars = text.c_str();
-  dbus_message_iter_append_basic(args, DBUS_TYPE_STRING, &chars);
-}
-void Append(DBusMessageIter* args, int32_t value) { dbus_message_iter_append_basic(args, DBUS_TYPE_INT32, &value); }
-void Append(DBusMessageIter* args, uint32_t value) { dbus_message_iter_append_basic(args, DBUS_TYPE_UINT32, &value); }
-void Append(DBusMessageIter* args, Bytes bytes) {
-  const char* data = bytes.data.data();
-  DBusMessageIter array;
-  dbus_message_iter_open_container(args, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE_AS_STRING, &array);
-  dbus_message_iter_append_fixed_array(&array, DBUS_TYPE_BYTE, &data, static_cast<int>(bytes.data.size()));
-  dbus_message_iter_close_container(args, &array);
-}
-
-// Calls `method` of the control interface with `args` and returns its reply (null, failing the test, on an
-// error). The control connection is private, so that the library's shared connection sees none of it.
-template <typename... Args>
-DBusMessage* Control(const char* method, const Args&... args) {
+// Calls `method` of the control interface with arguments as dbus_message_append_args takes them, and
+// returns its reply (null, failing the test, on an error). The control connection is private, so that
+// the library's shared connection sees none of it.
+DBusMessage* Control(const char* method, int firstType = DBUS_TYPE_INVALID, ...) {
   static DBusConnection* connection = [] {
     DBusConnection* made = dbus_bus_get_private(DBUS_BUS_SYSTEM, nullptr);
-    if (made == nullptr) {
-      std::fprintf(stderr, "test service control: no bus\n");
-      std::exit(2);
-    }
+    if (made == nullptr) std::abort();  // the test bus runs before any test does
     dbus_connection_set_exit_on_disconnect(made, FALSE);
     return made;
   }();
   DBusMessage* message = dbus_message_new_method_call("com.velmora.FCCallListener", test_service::kControlPath,
                                                       test_service::kControlInterface, method);
-  DBusMessageIter iter;
-  dbus_message_iter_init_append(message, &iter);
-  (Append(&iter, args), ...);
+  va_list args;
+  va_start(args, firstType);
+  dbus_message_append_args_valist(message, firstType, args);
+  va_end(args);
   DBusError error;
   dbus_error_init(&error);
   DBusMessage* reply = dbus_connection_send_with_reply_and_block(connection, message, 10000, &error);
@@ -64,20 +43,19 @@ void Done(DBusMessage* reply) {
   if (reply != nullptr) dbus_message_unref(reply);
 }
 
-void Script(const std::string& member, const std::string& action, int32_t status = 0, int32_t length = -1,
+void Script(const std::string& member, const char* action, int32_t status = 0, int32_t length = -1,
             const std::string& payload = "", uint32_t delayMs = 0) {
-  Done(Control("Script", member, action, status, length, Bytes{payload}, delayMs));
+  const char* name = member.c_str();
+  const char* bytes = payload.data();
+  Done(Control("Script", DBUS_TYPE_STRING, &name, DBUS_TYPE_STRING, &action, DBUS_TYPE_INT32, &status, DBUS_TYPE_INT32,
+               &length, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE, &bytes, int(payload.size()), DBUS_TYPE_UINT32, &delayMs,
+               DBUS_TYPE_INVALID));
 }
 
 }  // namespace
 
 void TestService::Start() {
-  const StartedChild service = StartChild([](int writeFd) {
-    dup2(writeFd, STDOUT_FILENO);
-    close(writeFd);
-    execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", static_cast<char*>(nullptr));
-    std::perror("zunde-test-service");
-  });
+  const StartedChild service = StartChild({ZUNDE_TEST_SERVICE_PATH});
   servicePid = service.pid;
   ASSERT_EQ(service.firstLine, test_service::kReadyLine) << "the test service did not start";
 }
@@ -99,8 +77,7 @@ std::vector<ReceivedCall> TestService::TakeCalls() {
   dbus_message_iter_init(reply, &args);
   for (dbus_message_iter_recurse(&args, &array); dbus_message_iter_get_arg_type(&array) == DBUS_TYPE_STRUCT;
        dbus_message_iter_next(&array)) {
-    const char* member = nullptr;
-    const char* data = nullptr;
+    const char *member = nullptr, *data = nullptr;
     int count = 0;
     ReceivedCall& call = calls.emplace_back();
     dbus_message_iter_recurse(&array, &entry);
@@ -125,7 +102,10 @@ ReceivedCall TestService::TakeOnlyCall() {
 
 void TestService::Emit(const std::string& member, const std::string& first, const std::string& payload,
                        const std::string& destination) {
-  Done(Control("Emit", member, first, static_cast<int32_t>(payload.size()), Bytes{payload}, destination));
+  const char *name = member.c_str(), *firstText = first.c_str(), *to = destination.c_str(), *bytes = payload.data();
+  const int32_t length = static_cast<int32_t>(payload.size());
+  Done(Control("Emit", DBUS_TYPE_STRING, &name, DBUS_TYPE_STRING, &firstText, DBUS_TYPE_INT32, &length, DBUS_TYPE_ARRAY,
+               DBUS_TYPE_BYTE, &bytes, length, DBUS_TYPE_STRING, &to, DBUS_TYPE_INVALID));
 }
 
 }  // namespace zunde::testing
