@@ -8,18 +8,16 @@
 
 namespace zunde::testing {
 
-StartedChild StartChild(std::vector<const char*> argv) {
+StartedChild StartChild(const std::function<void(int writeFd)>& exec) {
   StartedChild child;
   int pipeFds[2];
   if (pipe(pipeFds) != 0) return child;
   child.pid = fork();
   if (child.pid == 0) {
-    dup2(pipeFds[1], STDOUT_FILENO);
     close(pipeFds[0]);
-    close(pipeFds[1]);
-    argv.push_back(nullptr);
-    execvp(argv[0], const_cast<char* const*>(argv.data()));
-    std::perror(argv[0]);
+    dup2(pipeFds[1], STDOUT_FILENO);
+    exec(pipeFds[1]);
+    std::perror("exec");
     _exit(127);
   }
   close(pipeFds[1]);

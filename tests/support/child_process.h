@@ -5,8 +5,8 @@
 
 #include <sys/types.h>
 
+#include <functional>
 #include <string>
-#include <vector>
 
 namespace zunde::testing {
 
@@ -15,9 +15,10 @@ struct StartedChild {
   std::string firstLine;   // empty when the child wrote none
 };
 
-// Runs the program `argv[0]` (looked up in PATH) with `argv` and reads the
-// first line it writes on its standard output.
-StartedChild StartChild(std::vector<const char*> argv);
+// Forks; the child runs `exec` (which must not return) with its standard
+// output on a pipe, also given as `writeFd`; the parent reads the first line
+// the child writes on it.
+StartedChild StartChild(const std::function<void(int writeFd)>& exec);
 
 // Ends a child started above and reaps it.
 void StopChild(pid_t& pid);

@@ -1,6 +1,6 @@
 #include "test_bus.h"
 
-#include <sys/types.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -15,8 +15,10 @@ pid_t daemonPid = -1;
 }  // namespace
 
 void TestBus::Start() {
-  const StartedChild daemon = StartChild(
-      {"dbus-daemon", "--config-file=" ZUNDE_TEST_BUS_CONFIG, "--nofork", "--nopidfile", "--print-address"});
+  const StartedChild daemon = StartChild([](int) {
+    execlp("dbus-daemon", "dbus-daemon", "--config-file=" ZUNDE_TEST_BUS_CONFIG, "--nofork", "--nopidfile",
+           "--print-address", static_cast<char*>(nullptr));
+  });
   daemonPid = daemon.pid;
   if (daemon.firstLine.empty()) {
     std::fprintf(stderr, "test bus: dbus-daemon printed no address\n");

@@ -1,7 +1,7 @@
 #include "test_service.h"
 
 #include <dbus/dbus.h>
-#include <sys/types.h>
+#include <unistd.h>
 
 #include <cstdarg>
 #include <cstdlib>
@@ -55,7 +55,8 @@ void Script(const std::string& member, const char* action, int32_t status = 0, i
 }  // namespace
 
 void TestService::Start() {
-  const StartedChild service = StartChild({ZUNDE_TEST_SERVICE_PATH});
+  const StartedChild service = StartChild(
+      [](int) { execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", static_cast<char*>(nullptr)); });
   servicePid = service.pid;
   ASSERT_EQ(service.firstLine, test_service::kReadyLine) << "the test service did not start";
 }
