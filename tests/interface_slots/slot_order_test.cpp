@@ -19,15 +19,13 @@ namespace {
 // bit of the adjustment.
 template <typename Member>
 std::ptrdiff_t SlotOf(Member member) {
-  struct {
-    std::ptrdiff_t ptr, adj;
-  } bits;
-  static_assert(sizeof(member) == sizeof(bits), "not an Itanium-style member pointer");
-  std::memcpy(&bits, &member, sizeof bits);
+  std::ptrdiff_t ptrAdj[2];  // the pointer, then the adjustment
+  static_assert(sizeof(member) == sizeof(ptrAdj), "not an Itanium-style member pointer");
+  std::memcpy(ptrAdj, &member, sizeof ptrAdj);
 #if defined(__arm__) || defined(__aarch64__)
-  return (bits.adj & 1) ? bits.ptr / static_cast<std::ptrdiff_t>(sizeof(void*)) : -1;
+  return (ptrAdj[1] & 1) ? ptrAdj[0] / static_cast<std::ptrdiff_t>(sizeof(void*)) : -1;
 #else
-  return (bits.ptr & 1) ? (bits.ptr - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) : -1;
+  return (ptrAdj[0] & 1) ? (ptrAdj[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) : -1;
 #endif
 }
 
@@ -37,94 +35,71 @@ template <typename Class, typename Function>
 using MemberOf = Function Class::*;
 constexpr std::ptrdiff_t kTyped = -2;
 
+// Each operation's slot, counted from `first`; a typed form's slot is only reserved.
 void ExpectSlotsFrom(std::ptrdiff_t first, const std::vector<std::pair<const char*, std::ptrdiff_t>>& slots) {
-  for (size_t i = 0; i < slots.size(); ++i) {
-    if (slots[i].second != kTyped) EXPECT_EQ(slots[i].second, first + std::ptrdiff_t(i)) << slots[i].first;
-  }
+  for (size_t i = 0; i < slots.size(); ++i)
+    EXPECT_EQ(slots[i].second, slots[i].second == kTyped ? kTyped : first + std::ptrdiff_t(i)) << slots[i].first;
 }
 
 #define S(name) {#name, SlotOf(&C::name)}
 #define O(name, ...) {#name " " #__VA_ARGS__, SlotOf(static_cast<MemberOf<C, __VA_ARGS__>>(&C::name))}
 #define P(name) {"typed " #name, kTyped}, O(name, bool(Text, Out))
+// One row per class: its operations in slot order from `first`.
+#define SLOTS(Class, first, ...) \
+  TEST(SlotOrder, Class) {       \
+    using C = Class;             \
+    ExpectSlotsFrom(first, {__VA_ARGS__}); \
+  }
 
-TEST(SlotOrder, FCRemoteContentAPI) {
-  using C = FCRemoteContentAPI;
-  ExpectSlotsFrom(2, {S(Reset), S(ToggleZundeTimeoutTest), S(SetRemoteContentEnv), S(SetRemoteContentEnvForEmp),
-                      O(GetRemoteContentEnv, bool(Out, Out)), O(GetRemoteContentEnv, bool(Out)),
-                      P(GetRemoteContentActivityByTVSourceAndTVMode), P(SetRecommendTypeOption),
-                      S(GetRecommendTypeOption), S(SetPersonalUserID), S(GetPersonalUserID)});
-}
+SLOTS(FCRemoteContentAPI, 2, S(Reset), S(ToggleZundeTimeoutTest), S(SetRemoteContentEnv), S(SetRemoteContentEnvForEmp),
+      O(GetRemoteContentEnv, bool(Out, Out)), O(GetRemoteContentEnv, bool(Out)),
+      P(GetRemoteContentActivityByTVSourceAndTVMode), P(SetRecommendTypeOption), S(GetRecommendTypeOption),
+      S(SetPersonalUserID), S(GetPersonalUserID))
+SLOTS(FIMatchFinder, 2, P(GetFCRemoteChannelByTCServiceId), P(GetTCServiceIdByFCRemoteChannel),
+      P(GetTCServiceIdByProgramSourceID))
+SLOTS(FCRFNetworkChannelAPI, 2, S(Reset), S(SetNavigationMode), S(GetNavigationMode), S(SetGenreForNavigation),
+      S(GetGenreForNavigation), S(GetRFNetworkChannelMapByGenre), S(GetRFNetworkChannelUpByGenre),
+      S(GetRFNetworkChannelDownByGenre), S(GetRFNetworkChannelCountByGenre), S(GetRFNetworkChannelCountByGenreList),
+      S(GetPresentMetaProgram), S(GetNextMetaProgram), S(GetPrevMetaProgram), S(GetMetaProgramMap),
+      S(CheckMetaProgramExist))
+SLOTS(FCMBRNetworkChannelAPI, 2, S(Reset), S(AllocateActivityIDBySourceID), S(DeleteActivityID),
+      S(SetActivityIDSourceID), S(GetActivityIDBySourceID), S(SetZipCode), S(GetZipCode), S(SetAdditionalInfo),
+      S(GetAdditionalInfo), S(SetDeviceType), S(GetDeviceType), S(SetHeadEndID), S(GetHeadEndID), S(SetLocation),
+      S(GetLocation), S(ConstructMBRNetworkChannelMap), S(ConstructMBRNetworkProgramMap),
+      S(GetCurrentMBRNetworkProgram), S(GetCurrentMBRNetworkProgrambyCurrentTime), S(SetMBRNetworkChannelMap),
+      S(GetMBRNetworkChannelMap), S(GetMBRNetworkChannelUp), S(GetMBRNetworkChannelDown),
+      S(GetMBRNetworkChannelByMajorMinor), S(SaveMBRNetworkChannelMap), S(AddNewMBRNetworkChannel),
+      S(SetRememberMBRNetworkChannel), S(ExistMBRNetworkChannelByMajorMinor), S(AddFavoriteMBRNetworkChannel),
+      S(DeleteFavoriteMBRNetworkChannel), S(SetMBRNetworkProgramMap), S(GetMBRNetworkProgrmaMap),
+      S(RemoveMBRNetworkChannel), S(GetMaxNumberOfMajorMinor), S(ExistChannelInActivityID), S(ClearMBRProgramMap),
+      S(GetFeaturedMBRChannels), S(SetEditedMBRNetworkChannel), S(NotifyMBRChannelEditCompleted),
+      S(GetMBRNetworkChannelByChannelIDOriginMajor), S(SetCurrentMBRNetworkChannel), S(GetCurrentMBRNetworkChannel),
+      S(RegisterMBRNetworkChannelHistory))
+SLOTS(FCVirtualChannelsAPI, 2, P(GetProgramList),
+      O(GetProgram, bool(EProgramIndicator, FCVirtualProgramId const&, FCVirtualProgramData&)), P(GetProgram),
+      P(GetPresentProgram), P(GetChannelLogo), P(GetProgramThumbnail), {"typed GetProgramImage", kTyped},
+      O(GetProgramImage, long(Text, Out)), P(GetProgramBackground), P(SetOnDemandProgram), P(UnsetOnDemandProgram),
+      P(GetOnDemandIdentifier), P(GetVCConfig), P(GetFeaturedVirtualChannelInfo),
+      P(GetServiceIdFromOnTVProviderAndService), S(SendLogKPI), S(GetViewingAgreement), S(Reset),
+      S(KivoProgramInfoIsAvailable))
+SLOTS(FCRemoteContent_MSOAPI, 2, P(GetRemoteContentConfig), P(SetRemoteContentConfig), P(GetCertRule),
+      P(GetFullChannelList), P(GetTunableChannelList), S(GetTunableProgramSourceIdMap), P(GetProgramMap),
+      P(ActivateProgramGuide), P(DeactivateProgramGuide), P(LoadAdditionalProgramMapFromServer), P(GetGenreList),
+      P(GetRepGenreList), P(GetVODProviders), P(GetRecGroupMap), S(ActivateTimeline), P(ActivateSmartPersonal),
+      P(GetRecommendationOnNow), P(GetRecommendationUpcomming), S(GetRecommendationTimeline),
+      S(GetRecommendationFutureTimeline), P(GetFCRemoteProgramByProgramSourceID),
+      P(GetFCRemoteChannelByProgramSourceID), S(GetSearchKeyStringInRFMode), S(GetSearchKeyStringInMBRMode),
+      S(GetFeaturedChannels))
+SLOTS(FIIPCConnection, 2, S(Connect), S(AddMatchRule), S(RemoveMatchRule), S(Call), S(SetEventCallbackFunction),
+      S(UnSetEventCallbackFunction), S(SetDataCallbackFunction), S(GetConnectionId), S(SetGMainLoop))
+// The factory's getters come before its destructor.
+SLOTS(FCBrisvelObjectFactory, 0, S(GetRFNetworkChannelManager), S(GetMBRNetworkChannelManager),
+      S(GetRemoteContentAPI), S(GetRemoteContentMSOAPI), S(GetMatchFinder), S(GetVirtualChannelsAPI))
 
-TEST(SlotOrder, FIMatchFinder) {
-  using C = FIMatchFinder;
-  ExpectSlotsFrom(2, {P(GetFCRemoteChannelByTCServiceId), P(GetTCServiceIdByFCRemoteChannel),
-                      P(GetTCServiceIdByProgramSourceID)});
-}
-
-TEST(SlotOrder, FCRFNetworkChannelAPI) {
-  using C = FCRFNetworkChannelAPI;
-  ExpectSlotsFrom(2, {S(Reset), S(SetNavigationMode), S(GetNavigationMode), S(SetGenreForNavigation),
-                      S(GetGenreForNavigation), S(GetRFNetworkChannelMapByGenre), S(GetRFNetworkChannelUpByGenre),
-                      S(GetRFNetworkChannelDownByGenre), S(GetRFNetworkChannelCountByGenre),
-                      S(GetRFNetworkChannelCountByGenreList), S(GetPresentMetaProgram), S(GetNextMetaProgram),
-                      S(GetPrevMetaProgram), S(GetMetaProgramMap), S(CheckMetaProgramExist)});
-}
-
-TEST(SlotOrder, FCMBRNetworkChannelAPI) {
-  using C = FCMBRNetworkChannelAPI;
-  ExpectSlotsFrom(
-      2, {S(Reset), S(AllocateActivityIDBySourceID), S(DeleteActivityID), S(SetActivityIDSourceID),
-          S(GetActivityIDBySourceID), S(SetZipCode), S(GetZipCode), S(SetAdditionalInfo), S(GetAdditionalInfo),
-          S(SetDeviceType), S(GetDeviceType), S(SetHeadEndID), S(GetHeadEndID), S(SetLocation), S(GetLocation),
-          S(ConstructMBRNetworkChannelMap), S(ConstructMBRNetworkProgramMap), S(GetCurrentMBRNetworkProgram),
-          S(GetCurrentMBRNetworkProgrambyCurrentTime), S(SetMBRNetworkChannelMap), S(GetMBRNetworkChannelMap),
-          S(GetMBRNetworkChannelUp), S(GetMBRNetworkChannelDown), S(GetMBRNetworkChannelByMajorMinor),
-          S(SaveMBRNetworkChannelMap), S(AddNewMBRNetworkChannel), S(SetRememberMBRNetworkChannel),
-          S(ExistMBRNetworkChannelByMajorMinor), S(AddFavoriteMBRNetworkChannel), S(DeleteFavoriteMBRNetworkChannel),
-          S(SetMBRNetworkProgramMap), S(GetMBRNetworkProgrmaMap), S(RemoveMBRNetworkChannel),
-          S(GetMaxNumberOfMajorMinor), S(ExistChannelInActivityID), S(ClearMBRProgramMap), S(GetFeaturedMBRChannels),
-          S(SetEditedMBRNetworkChannel), S(NotifyMBRChannelEditCompleted),
-          S(GetMBRNetworkChannelByChannelIDOriginMajor), S(SetCurrentMBRNetworkChannel),
-          S(GetCurrentMBRNetworkChannel), S(RegisterMBRNetworkChannelHistory)});
-}
-
-TEST(SlotOrder, FCVirtualChannelsAPI) {
-  using C = FCVirtualChannelsAPI;
-  ExpectSlotsFrom(
-      2, {P(GetProgramList), O(GetProgram, bool(EProgramIndicator, FCVirtualProgramId const&, FCVirtualProgramData&)),
-          P(GetProgram), P(GetPresentProgram), P(GetChannelLogo), P(GetProgramThumbnail),
-          {"typed GetProgramImage", kTyped}, O(GetProgramImage, long(Text, Out)), P(GetProgramBackground),
-          P(SetOnDemandProgram), P(UnsetOnDemandProgram), P(GetOnDemandIdentifier), P(GetVCConfig),
-          P(GetFeaturedVirtualChannelInfo), P(GetServiceIdFromOnTVProviderAndService), S(SendLogKPI),
-          S(GetViewingAgreement), S(Reset), S(KivoProgramInfoIsAvailable)});
-}
-
-TEST(SlotOrder, FCRemoteContent_MSOAPI) {
-  using C = FCRemoteContent_MSOAPI;
-  ExpectSlotsFrom(
-      2, {P(GetRemoteContentConfig), P(SetRemoteContentConfig), P(GetCertRule), P(GetFullChannelList),
-          P(GetTunableChannelList), S(GetTunableProgramSourceIdMap), P(GetProgramMap), P(ActivateProgramGuide),
-          P(DeactivateProgramGuide), P(LoadAdditionalProgramMapFromServer), P(GetGenreList), P(GetRepGenreList),
-          P(GetVODProviders), P(GetRecGroupMap), S(ActivateTimeline), P(ActivateSmartPersonal),
-          P(GetRecommendationOnNow), P(GetRecommendationUpcomming), S(GetRecommendationTimeline),
-          S(GetRecommendationFutureTimeline), P(GetFCRemoteProgramByProgramSourceID),
-          P(GetFCRemoteChannelByProgramSourceID), S(GetSearchKeyStringInRFMode), S(GetSearchKeyStringInMBRMode),
-          S(GetFeaturedChannels)});
-}
-
-TEST(SlotOrder, FIIPCConnection) {
-  using C = FIIPCConnection;
-  ExpectSlotsFrom(2, {S(Connect), S(AddMatchRule), S(RemoveMatchRule), S(Call), S(SetEventCallbackFunction),
-                      S(UnSetEventCallbackFunction), S(SetDataCallbackFunction), S(GetConnectionId), S(SetGMainLoop)});
-  // Implementations add their own operations after the interface's.
+// Implementations add their own operations after the interface's.
+TEST(SlotOrder, ImplementationsAddAfterTheInterface) {
   EXPECT_EQ(SlotOf(&FCIPCConnection::m_Connect), 11);
   EXPECT_EQ(SlotOf(&FCRemoteContentOnTV_Proxy::SetAToken), 15);
-}
-
-TEST(SlotOrder, FactoryGettersComeBeforeItsDestructor) {
-  using C = FCBrisvelObjectFactory;
-  ExpectSlotsFrom(0, {S(GetRFNetworkChannelManager), S(GetMBRNetworkChannelManager), S(GetRemoteContentAPI),
-                      S(GetRemoteContentMSOAPI), S(GetMatchFinder), S(GetVirtualChannelsAPI)});
 }
 
 }  // namespace

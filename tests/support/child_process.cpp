@@ -4,6 +4,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
+
 namespace zunde::testing {
 
 StartedChild StartChild(const std::function<void(int writeFd)>& exec) {
@@ -13,14 +15,13 @@ StartedChild StartChild(const std::function<void(int writeFd)>& exec) {
   child.pid = fork();
   if (child.pid == 0) {
     close(pipeFds[0]);
+    dup2(pipeFds[1], STDOUT_FILENO);
     exec(pipeFds[1]);
+    std::perror("exec");
     _exit(127);
   }
   close(pipeFds[1]);
-  if (child.pid > 0) {
-    char c;
-    while (read(pipeFds[0], &c, 1) == 1 && c != '\n') child.firstLine += c;
-  }
+  for (char c; child.pid > 0 && read(pipeFds[0], &c, 1) == 1 && c != '\n';) child.firstLine += c;
   close(pipeFds[0]);
   return child;
 }

@@ -1,5 +1,5 @@
-// Helper processes of the tests: started with a pipe on which they announce
-// themselves with one line, and ended again.
+// Helper processes of the tests: started with their standard output on a
+// pipe, on which they announce themselves with one line, and ended again.
 #ifndef ZUNDE_TESTS_CHILD_PROCESS_H
 #define ZUNDE_TESTS_CHILD_PROCESS_H
 
@@ -15,8 +15,9 @@ struct StartedChild {
   std::string firstLine;   // empty when the child wrote none
 };
 
-// Forks; the child runs `exec` with the write end of a pipe (it must not
-// return); the parent reads the first line the child writes on it.
+// Forks; the child runs `exec` (which must not return) with its standard
+// output on a pipe, also given as `writeFd`; the parent reads the first line
+// the child writes on it.
 StartedChild StartChild(const std::function<void(int writeFd)>& exec);
 
 // Ends a child started above and reaps it.

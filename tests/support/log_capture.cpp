@@ -9,30 +9,26 @@
 namespace zunde::testing {
 namespace {
 
-std::mutex& RecordsMutex() {
-  static std::mutex mutex;
-  return mutex;
-}
-
-std::vector<LogRecord>& AllRecords() {
-  static std::vector<LogRecord> records;
-  return records;
-}
-
-bool EndsWith(const std::string& text, const std::string& suffix) {
-  return text.size() >= suffix.size() && text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0;
+// Lines may come from any thread of the library, and from static initialisers.
+struct Captured {
+  std::mutex mutex;
+  std::vector<LogRecord> records;
+};
+Captured& captured() {
+  static Captured all;
+  return all;
 }
 
 }  // namespace
 
 void LogCapture::Clear() {
-  std::lock_guard<std::mutex> lock(RecordsMutex());
-  AllRecords().clear();
+  std::lock_guard<std::mutex> lock(captured().mutex);
+  captured().records.clear();
 }
 
 std::vector<LogRecord> LogCapture::Records() {
-  std::lock_guard<std::mutex> lock(RecordsMutex());
-  return AllRecords();
+  std::lock_guard<std::mutex> lock(captured().mutex);
+  return captured().records;
 }
 
 std::vector<std::string> LogCapture::Lines() {
@@ -43,7 +39,8 @@ std::vector<std::string> LogCapture::Lines() {
 
 bool LogCapture::Find(const std::string& suffix, LogRecord* found) {
   for (const auto& record : Records()) {
-    if (EndsWith(record.text, suffix)) {
+    const auto& text = record.text;
+    if (text.size() >= suffix.size() && text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0) {
       if (found != nullptr) *found = record;
       return true;
     }
@@ -54,19 +51,13 @@ bool LogCapture::Find(const std::string& suffix, LogRecord* found) {
 }  // namespace zunde::testing
 
 extern "C" int __dlog_print(log_id_t log_id, int prio, const char* tag, const char* fmt, ...) {
+  char text[4096];
   va_list args;
   va_start(args, fmt);
-  char text[4096];
   std::vsnprintf(text, sizeof text, fmt, args);
   va_end(args);
-
-  zunde::testing::LogRecord record;
-  record.logId = log_id;
-  record.priority = prio;
-  record.tag = tag ? tag : "";
-  record.format = fmt ? fmt : "";
-  record.text = text;
-  std::lock_guard<std::mutex> lock(zunde::testing::RecordsMutex());
-  zunde::testing::AllRecords().push_back(record);
+  using zunde::testing::captured;
+  std::lock_guard<std::mutex> lock(captured().mutex);
+  captured().records.push_back({log_id, prio, tag ? tag : "", fmt ? fmt : "", text});
   return 0;
 }

@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 #include "child_process.h"
 
@@ -12,28 +11,22 @@ namespace zunde::testing {
 namespace {
 
 pid_t daemonPid = -1;
-std::string busAddress;
 
 }  // namespace
 
 void TestBus::Start() {
-  const StartedChild daemon = StartChild([](int writeFd) {
-    const std::string printAddress = "--print-address=" + std::to_string(writeFd);
+  const StartedChild daemon = StartChild([](int) {
     execlp("dbus-daemon", "dbus-daemon", "--config-file=" ZUNDE_TEST_BUS_CONFIG, "--nofork", "--nopidfile",
-           printAddress.c_str(), static_cast<char*>(nullptr));
-    std::perror("dbus-daemon");
+           "--print-address", static_cast<char*>(nullptr));
   });
   daemonPid = daemon.pid;
-  busAddress = daemon.firstLine;
-  if (busAddress.empty()) {
+  if (daemon.firstLine.empty()) {
     std::fprintf(stderr, "test bus: dbus-daemon printed no address\n");
     std::exit(2);
   }
-  setenv("DBUS_SYSTEM_BUS_ADDRESS", busAddress.c_str(), 1);
+  setenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine.c_str(), 1);
 }
 
 void TestBus::Stop() { StopChild(daemonPid); }
-
-const std::string& TestBus::Address() { return busAddress; }
 
 }  // namespace zunde::testing

@@ -2,8 +2,6 @@
 #ifndef ZUNDE_TESTS_TEST_BUS_H
 #define ZUNDE_TESTS_TEST_BUS_H
 
-#include <string>
-
 namespace zunde::testing {
 
 class TestBus {
@@ -13,7 +11,6 @@ class TestBus {
   static void Start();
   // Ends the daemon; the library's connection sees its bus go away.
   static void Stop();
-  static const std::string& Address();
 };
 
 }  // namespace zunde::testing

@@ -3,7 +3,7 @@
 #include <dbus/dbus.h>
 #include <unistd.h>
 
-#include <cstdio>
+#include <cstdarg>
 #include <cstdlib>
 
 #include "child_process.h"
@@ -13,81 +13,50 @@ namespace zunde::testing {
 namespace {
 
 pid_t servicePid = -1;
-const char* const kListener = "com.velmora.FCCallListener";
 
-DBusConnection* ControlConnection() {
+// Calls `method` of the control interface with arguments as dbus_message_append_args takes them, and
+// returns its reply (null, failing the test, on an error). The control connection is private, so that
+// the library's shared connection sees none of it.
+DBusMessage* Control(const char* method, int firstType = DBUS_TYPE_INVALID, ...) {
   static DBusConnection* connection = [] {
-    DBusError error;
-    dbus_error_init(&error);
-    DBusConnection* made = dbus_bus_get_private(DBUS_BUS_SYSTEM, &error);
-    if (made == nullptr) {
-      std::fprintf(stderr, "test service control: %s\n", error.message);
-      std::exit(2);
-    }
+    DBusConnection* made = dbus_bus_get_private(DBUS_BUS_SYSTEM, nullptr);
+    if (made == nullptr) std::abort();  // the test bus runs before any test does
     dbus_connection_set_exit_on_disconnect(made, FALSE);
     return made;
   }();
-  return connection;
-}
-
-DBusMessage* NewControl(const char* method) {
-  return dbus_message_new_method_call(kListener, test_service::kControlPath, test_service::kControlInterface, method);
-}
-
-void AppendBytes(DBusMessageIter* args, const std::string& bytes) {
-  const char* data = bytes.data();
-  DBusMessageIter array;
-  dbus_message_iter_open_container(args, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE_AS_STRING, &array);
-  dbus_message_iter_append_fixed_array(&array, DBUS_TYPE_BYTE, &data, static_cast<int>(bytes.size()));
-  dbus_message_iter_close_container(args, &array);
-}
-
-std::string ReadBytes(DBusMessageIter* args) {
-  DBusMessageIter array;
-  dbus_message_iter_recurse(args, &array);
-  const char* data = nullptr;
-  int count = 0;
-  dbus_message_iter_get_fixed_array(&array, &data, &count);
-  return std::string(data, static_cast<size_t>(count));
-}
-
-// Sends a control call and returns its reply; fails the test on an error.
-DBusMessage* Control(DBusMessage* message) {
+  DBusMessage* message = dbus_message_new_method_call("com.velmora.FCCallListener", test_service::kControlPath,
+                                                      test_service::kControlInterface, method);
+  va_list args;
+  va_start(args, firstType);
+  dbus_message_append_args_valist(message, firstType, args);
+  va_end(args);
   DBusError error;
   dbus_error_init(&error);
-  DBusMessage* reply = dbus_connection_send_with_reply_and_block(ControlConnection(), message, 10000, &error);
+  DBusMessage* reply = dbus_connection_send_with_reply_and_block(connection, message, 10000, &error);
   dbus_message_unref(message);
-  if (reply == nullptr) {
-    ADD_FAILURE() << "control call failed: " << error.message;
-    dbus_error_free(&error);
-  }
+  if (reply == nullptr) ADD_FAILURE() << "control call " << method << " failed: " << error.message;
+  dbus_error_free(&error);
   return reply;
 }
 
-void Script(const std::string& member, const char* action, int32_t status, int32_t length, const std::string& payload,
-            uint32_t delayMs) {
-  DBusMessage* message = NewControl("Script");
-  const char* memberText = member.c_str();
-  DBusMessageIter args;
-  dbus_message_iter_init_append(message, &args);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_STRING, &memberText);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_STRING, &action);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_INT32, &status);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_INT32, &length);
-  AppendBytes(&args, payload);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_UINT32, &delayMs);
-  if (DBusMessage* reply = Control(message)) dbus_message_unref(reply);
+void Done(DBusMessage* reply) {
+  if (reply != nullptr) dbus_message_unref(reply);
+}
+
+void Script(const std::string& member, const char* action, int32_t status = 0, int32_t length = -1,
+            const std::string& payload = "", uint32_t delayMs = 0) {
+  const char* name = member.c_str();
+  const char* bytes = payload.data();
+  Done(Control("Script", DBUS_TYPE_STRING, &name, DBUS_TYPE_STRING, &action, DBUS_TYPE_INT32, &status, DBUS_TYPE_INT32,
+               &length, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE, &bytes, int(payload.size()), DBUS_TYPE_UINT32, &delayMs,
+               DBUS_TYPE_INVALID));
 }
 
 }  // namespace
 
 void TestService::Start() {
-  const StartedChild service = StartChild([](int writeFd) {
-    dup2(writeFd, STDOUT_FILENO);
-    close(writeFd);
-    execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", static_cast<char*>(nullptr));
-    std::perror("zunde-test-service");
-  });
+  const StartedChild service = StartChild(
+      [](int) { execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", static_cast<char*>(nullptr)); });
   servicePid = service.pid;
   ASSERT_EQ(service.firstLine, test_service::kReadyLine) << "the test service did not start";
 }
@@ -98,36 +67,31 @@ void TestService::Reply(const std::string& member, const std::string& payload, i
                         uint32_t delayMs) {
   Script(member, "reply", status, length, payload, delayMs);
 }
-
-void TestService::ReplyWithoutArguments(const std::string& member) { Script(member, "no-arguments", 0, -1, "", 0); }
-
-void TestService::ReplyWithError(const std::string& member) { Script(member, "error", 0, -1, "", 0); }
-
-void TestService::ExitWithoutAnswer(const std::string& member) { Script(member, "exit", 0, -1, "", 0); }
+void TestService::ReplyWithoutArguments(const std::string& member) { Script(member, "no-arguments"); }
+void TestService::ReplyWithError(const std::string& member) { Script(member, "error"); }
 
 std::vector<ReceivedCall> TestService::TakeCalls() {
   std::vector<ReceivedCall> calls;
-  DBusMessage* reply = Control(NewControl("TakeCalls"));
+  DBusMessage* reply = Control("TakeCalls");
   if (reply == nullptr) return calls;
-  DBusMessageIter args;
-  DBusMessageIter array;
+  DBusMessageIter args, array, entry, bytes;
   dbus_message_iter_init(reply, &args);
-  dbus_message_iter_recurse(&args, &array);
-  while (dbus_message_iter_get_arg_type(&array) == DBUS_TYPE_STRUCT) {
-    DBusMessageIter entry;
+  for (dbus_message_iter_recurse(&args, &array); dbus_message_iter_get_arg_type(&array) == DBUS_TYPE_STRUCT;
+       dbus_message_iter_next(&array)) {
+    const char *member = nullptr, *data = nullptr;
+    int count = 0;
+    ReceivedCall& call = calls.emplace_back();
     dbus_message_iter_recurse(&array, &entry);
-    ReceivedCall call;
-    const char* member = nullptr;
     dbus_message_iter_get_basic(&entry, &member);
-    call.member = member;
     dbus_message_iter_next(&entry);
     dbus_message_iter_get_basic(&entry, &call.length);
     dbus_message_iter_next(&entry);
-    call.payload = ReadBytes(&entry);
-    calls.push_back(call);
-    dbus_message_iter_next(&array);
+    dbus_message_iter_recurse(&entry, &bytes);
+    dbus_message_iter_get_fixed_array(&bytes, &data, &count);
+    call.member = member;
+    call.payload.assign(data, static_cast<size_t>(count));
   }
-  dbus_message_unref(reply);
+  Done(reply);
   return calls;
 }
 
@@ -138,20 +102,11 @@ ReceivedCall TestService::TakeOnlyCall() {
 }
 
 void TestService::Emit(const std::string& member, const std::string& first, const std::string& payload,
-                       const std::string& destination, int32_t length) {
-  DBusMessage* message = NewControl("Emit");
-  const char* memberText = member.c_str();
-  const char* firstText = first.c_str();
-  const char* destinationText = destination.c_str();
-  const int32_t lengthArgument = length == -1 ? static_cast<int32_t>(payload.size()) : length;
-  DBusMessageIter args;
-  dbus_message_iter_init_append(message, &args);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_STRING, &memberText);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_STRING, &firstText);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_INT32, &lengthArgument);
-  AppendBytes(&args, payload);
-  dbus_message_iter_append_basic(&args, DBUS_TYPE_STRING, &destinationText);
-  if (DBusMessage* reply = Control(message)) dbus_message_unref(reply);
+                       const std::string& destination) {
+  const char *name = member.c_str(), *firstText = first.c_str(), *to = destination.c_str(), *bytes = payload.data();
+  const int32_t length = static_cast<int32_t>(payload.size());
+  Done(Control("Emit", DBUS_TYPE_STRING, &name, DBUS_TYPE_STRING, &firstText, DBUS_TYPE_INT32, &length, DBUS_TYPE_ARRAY,
+               DBUS_TYPE_BYTE, &bytes, length, DBUS_TYPE_STRING, &to, DBUS_TYPE_INVALID));
 }
 
 }  // namespace zunde::testing

@@ -31,7 +31,6 @@ class TestService {
                     int32_t length = -1, uint32_t delayMs = 0);
   static void ReplyWithoutArguments(const std::string& member);
   static void ReplyWithError(const std::string& member);
-  static void ExitWithoutAnswer(const std::string& member);
 
   static std::vector<ReceivedCall> TakeCalls();
   // The one call received since the last TakeCalls; fails the test otherwise.
@@ -39,7 +38,7 @@ class TestService {
 
   // Emits a signal from the service; an empty destination broadcasts.
   static void Emit(const std::string& member, const std::string& first, const std::string& payload,
-                   const std::string& destination = "", int32_t length = -1);
+                   const std::string& destination = "");
 };
 
 // A test that has the service running.
