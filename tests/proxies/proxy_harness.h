@@ -16,6 +16,7 @@
 #include <functional>
 #include <list>
 #include <map>
+#include <ostream>
 #include <string>
 #include <tuple>
 #include <type_traits>
@@ -76,6 +77,10 @@ template <typename Case>
 std::string CaseName(const ::testing::TestParamInfo<Case>& info) {
   return info.param.name;
 }
+// Rows print as their names in test listings.
+inline void PrintTo(const ProxyCase& row, std::ostream* os) { *os << row.name; }
+inline void PrintTo(const PassThroughCase& row, std::ostream* os) { *os << row.name; }
+inline void PrintTo(const RefusedCase& row, std::ostream* os) { *os << row.name; }
 
 // --- outputs as text ---
 // Each test file renders the records it uses in its own way, so these

@@ -58,9 +58,9 @@ TEST(DebugPrint, OnlyLevelZeroPrintsAndCountsALine) {
 // sanitizer's crash report.
 TEST(AssertDeathTest, WithoutTheMarkerFileOnlyTheCallersMessageIsPrinted) {
   if (access("/etc/debug", F_OK) == 0) GTEST_SKIP() << "/etc/debug exists on this machine";
-  EXPECT_DEATH(_FCAssert("count > 0", "queue.cpp", 42), "^($|.*Sanitizer)");
+  EXPECT_DEATH(_FCAssert("count > 0", "queue.cpp", 42), "^($|.*(Sanitizer|runtime error))");
   EXPECT_DEATH(_FCAssert("id != 0", "thread.cpp", 7, "thread %d not created\n", 11),
-               "^thread 11 not created\n($|.*Sanitizer)");
+               "^thread 11 not created\n($|.*(Sanitizer|runtime error))");
 }
 
 }  // namespace
