@@ -108,12 +108,6 @@ void SetToken(Request& request, Json::Value& reply) {
   Succeed(reply);
 }
 
-void ResetEverything(Request& request, Json::Value& reply) {
-  request.store.EraseAll();
-  request.events.push_back({kEventStateReset, {0, -1, -1}});
-  Succeed(reply);
-}
-
 using T = JsonType;
 
 }  // namespace
@@ -133,14 +127,6 @@ const MemberTable& EnvironmentMembers() {
       {"SetPersonalUserID", {{"in_user_id", T::String}}, SetUserId, true},
       {"GetPersonalUserID", {}, GetUserId, false},
       {"SetAToken", {{"atoken", T::String}}, SetToken, true},
-  };
-  return table;
-}
-
-// The entry's own member: the whole state back to the defaults.
-const MemberTable& EntryMembers() {
-  static const MemberTable table = {
-      {"Reset", {}, ResetEverything, true},
   };
   return table;
 }
