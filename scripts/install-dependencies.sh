@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   build-essential cmake pkg-config
-  libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev
+  libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev libsqlite3-dev
   dbus-daemon
   googletest libgtest-dev libgmock-dev libbenchmark-dev
 )

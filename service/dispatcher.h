@@ -1,0 +1,34 @@
+// Turns one request into one answer through the member tables.
+#ifndef ZUNDE_SERVICE_DISPATCHER_H
+#define ZUNDE_SERVICE_DISPATCHER_H
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "member_table.h"
+
+namespace zunde::service {
+
+class Dispatcher {
+ public:
+  explicit Dispatcher(Store& store);
+
+  // The answer text for `payload` sent to `member`; always a JSON object
+  // with "ret", and "error" when the request was refused. `events` receives
+  // the events of a committed change.
+  std::string Answer(const std::string& member, const std::string& payload, std::vector<Event>& events);
+
+  const RuntimeState& Runtime() const { return runtime_; }
+
+ private:
+  void Run(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events);
+
+  Store& store_;
+  RuntimeState runtime_;
+  std::map<std::string, const Member*> members_;
+};
+
+}  // namespace zunde::service
+
+#endif

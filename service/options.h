@@ -1,0 +1,25 @@
+// The command line of zunde-service.
+#ifndef ZUNDE_SERVICE_OPTIONS_H
+#define ZUNDE_SERVICE_OPTIONS_H
+
+#include <string>
+
+namespace zunde::service {
+
+struct Options {
+  std::string dataDir;      // where the store lives; made when missing
+  int slowReplyMs = 3000;   // the delay of every answer while the slow switch is on
+  bool exitNow = false;     // --help or --version was answered, or the line was wrong
+  int exitCode = 0;
+};
+
+// Reads argv; an empty --data-dir falls back to the usual state folder.
+Options ParseOptions(int argc, char** argv);
+
+// $STATE_DIRECTORY (systemd), else $XDG_STATE_HOME/zunde-provider, else
+// ~/.local/state/zunde-provider.
+std::string DefaultDataDir();
+
+}  // namespace zunde::service
+
+#endif

@@ -1,0 +1,43 @@
+#include "running_service.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "child_process.h"
+
+namespace zunde::testing {
+namespace {
+pid_t servicePid = -1;
+}
+
+void RunningService::Start(const std::string& dataDir, int slowReplyMs) {
+  const std::string slow = std::to_string(slowReplyMs);
+  const StartedChild child = StartChild([&](int writeFd) {
+    dup2(writeFd, STDOUT_FILENO);
+    close(writeFd);
+    execl(ZUNDE_SERVICE_PATH, "zunde-service", "--data-dir", dataDir.c_str(), "--slow-reply-ms", slow.c_str(),
+          static_cast<char*>(nullptr));
+  });
+  servicePid = child.pid;
+  ASSERT_EQ(child.firstLine, "zunde-service ready");
+}
+
+int RunningService::Stop() {
+  if (servicePid <= 0) return -1;
+  kill(servicePid, SIGTERM);
+  int status = 0;
+  waitpid(servicePid, &status, 0);
+  servicePid = -1;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+void RunningService::Kill() {
+  if (servicePid <= 0) return;
+  kill(servicePid, SIGKILL);
+  waitpid(servicePid, nullptr, 0);
+  servicePid = -1;
+}
+
+}  // namespace zunde::testing
