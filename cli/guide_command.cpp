@@ -68,13 +68,14 @@ void PrintGrid(const std::vector<Row>& rows, long long start, int slots, bool co
   };
   std::string header(kNameWidth, ' ');
   for (int slot = 0; slot < slots; ++slot) header += Fit(Clock(start + static_cast<long long>(slot) * kSlotSeconds), kSlotWidth);
+  header.erase(header.find_last_not_of(' ') + 1);
   std::printf("%s\n", header.c_str());
   if (now >= start && now < end) {
     std::string marker(kNameWidth + column(now), ' ');
     std::printf("%s%s\n", marker.c_str(), colour ? "\033[1;31mv now\033[0m" : "v now");
   }
   for (const Row& row : rows) {
-    std::string line = Fit(row.channel.str_channel_number + " " + row.channel.str_channel_name, kNameWidth);
+    std::string line = Fit(row.channel.str_channel_number + " " + row.channel.str_channel_name, kNameWidth - 1) + " ";
     size_t at = 0;
     for (const FCRemoteProgram& program : row.programs) {
       const size_t from = std::max(at, column(program.utc_starttime));

@@ -26,7 +26,7 @@ int ReportUnreachable() {
   std::fprintf(stderr,
                "zunde-cli: zunde-service does not answer on the bus %s; start it with "
                "`zunde-service --data-dir DIR` on that bus (or run scripts/demo.sh)\n",
-               bus ? bus : "(the system bus)");
+               bus && *bus ? bus : "(the system bus)");
   return kUnreachable;
 }
 
