@@ -1,0 +1,115 @@
+// The real zunde-cli against the real zunde-service on the test bus.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+#include "json_text.h"
+#include "running_service.h"
+
+namespace {
+
+using zunde::testing::Compact;
+using zunde::testing::Parsed;
+using zunde::testing::RunningService;
+
+struct Ran {
+  int status = -1;
+  std::string out, err;
+};
+
+std::string ReadAll(FILE* stream) {
+  std::string text;
+  char chunk[4096];
+  for (size_t n; (n = std::fread(chunk, 1, sizeof chunk, stream)) > 0;) text.append(chunk, n);
+  return text;
+}
+
+Ran RunCli(const std::string& args) {
+  const std::string errFile = ::testing::TempDir() + "zunde-cli-stderr";
+  FILE* child = popen((ZUNDE_CLI_PATH " " + args + " 2>" + errFile).c_str(), "r");
+  Ran ran;
+  ran.out = ReadAll(child);
+  const int status = pclose(child);
+  ran.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  std::ifstream err(errFile);
+  ran.err.assign(std::istreambuf_iterator<char>(err), {});
+  return ran;
+}
+
+class Cli : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { RunningService::Start(::testing::TempDir() + "zunde-cli-data"); }
+  static void TearDownTestSuite() { RunningService::Stop(); }
+};
+
+struct StatusCase {
+  const char* args;
+  int status;
+};
+
+TEST_F(Cli, ExitStatusTellsSuccessRefusalAndUsage) {
+  const StatusCase cases[] = {
+      {"env set DE de", 0},       {"stb allocate 3", 0},     {"call GetRemoteContentEnv", 0},
+      {"stb get-zip 9", 1},       {"call NoSuchMember", 1},  {"stb get-zip x", 2},
+      {"env set DE", 2},          {"no-such-command", 2},    {"monitor --count 0", 2},
+      {"guide --from 25:00", 2},  {"stb add 0 '{not json'", 2},
+  };
+  for (const StatusCase& row : cases) EXPECT_EQ(RunCli(row.args).status, row.status) << row.args;
+}
+
+TEST_F(Cli, UsageErrorNamesTheBadArgumentOnOneLine) {
+  const Ran ran = RunCli("stb set-zip x 10001");
+  EXPECT_EQ(ran.err, "zunde-cli: ACTIVITY: 'x' is not a whole number (see zunde-cli --help)\n");
+}
+
+TEST_F(Cli, JsonOutputIsOneDocumentPerResult) {
+  ASSERT_EQ(RunCli("--json env set FR fr").out, "{}\n");
+  EXPECT_EQ(RunCli("--json env get").out, "{\"country\":\"FR\",\"language\":\"fr\"}\n");
+  RunCli("stb set-channels 0 '{\"MBR channel table\": [{\"m_major\": 7, \"m_name\": \"News\"}, {\"m_major\": 9}]}'");
+  const Json::Value table = Parsed(RunCli("--json stb channels 0 0").out)["MBR channel table"];
+  ASSERT_EQ(table.size(), 2u);
+  EXPECT_EQ(table[0]["m_name"].asString(), "News");
+}
+
+TEST_F(Cli, RepeatReportsWhatACallCosts) {
+  const Ran ran = RunCli("--repeat 5 env get");
+  EXPECT_EQ(ran.status, 0);
+  EXPECT_EQ(ran.err.rfind("5 calls: min ", 0), 0u) << ran.err;
+}
+
+TEST_F(Cli, MonitorPrintsAnEventAsItArrives) {
+  FILE* monitor = popen(ZUNDE_CLI_PATH " --json monitor --count 1 --timeout 20 2>&1", "r");
+  char line[256] = {};
+  ASSERT_TRUE(std::fgets(line, sizeof line, monitor));  // subscribed
+  EXPECT_EQ(RunCli("stb set-zip 0 10001").status, 0);
+  EXPECT_EQ(ReadAll(monitor), "{\"event\":11,\"param1\":0,\"param2\":1,\"param3\":-1}\n");
+  EXPECT_EQ(WEXITSTATUS(pclose(monitor)), 0);
+}
+
+TEST_F(Cli, AbsentServiceIsStatusThreeWithHowToStartIt) {
+  RunningService::Stop();
+  const Ran ran = RunCli("env get");
+  RunningService::Start(::testing::TempDir() + "zunde-cli-data");
+  EXPECT_EQ(ran.status, 3);
+  EXPECT_NE(ran.err.find("zunde-service does not answer"), std::string::npos) << ran.err;
+  EXPECT_NE(ran.err.find("start it with `zunde-service --data-dir DIR`"), std::string::npos);
+}
+
+TEST_F(Cli, GuideShowsTheDefaultLineUp) {
+  const Ran channels = RunCli("--json catalogue channels 0");
+  if (channels.status == 1) GTEST_SKIP() << "the service does not serve the operator catalogue";
+  const Json::Value lineUp = Parsed(channels.out)["channel_array"];
+  ASSERT_FALSE(lineUp.empty());
+  const Ran grid = RunCli("guide --hours 1");
+  EXPECT_EQ(grid.status, 0) << grid.err;
+  EXPECT_EQ(grid.out.find('\033'), std::string::npos) << "colour on a pipe";
+  for (const Json::Value& channel : lineUp)
+    EXPECT_NE(grid.out.find(channel["str_channel_name"].asString().substr(0, 10)), std::string::npos);
+  const Json::Value guide = Parsed(RunCli("--json guide --hours 1").out);
+  EXPECT_EQ(guide["channels"].size(), lineUp.size());
+}
+
+}  // namespace
