@@ -160,6 +160,13 @@ Catalogue FromDocument(Json::Value& doc) {
     for (Json::Value& channel : e["channels"]) {
       LineupChannel entry;
       FCRemoteChannel::FromJson(channel, entry.channel);
+      // The record reads its genre name under another key than it writes;
+      // the genre list names the genre instead.
+      for (const Json::Value& genre : doc["genres"]) {
+        if (entry.channel.genre_name.empty() && genre["str_id"] == channel["genre id"]) {
+          entry.channel.genre_name = genre["str_name"].asString();
+        }
+      }
       entry.tunable = channel["tunable"].asBool();
       lineup.channels.push_back(entry);
     }
