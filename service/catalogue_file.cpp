@@ -135,6 +135,10 @@ unsigned long long ServiceId(const Json::Value& text, const std::string& place) 
 
 // What the shapes alone do not say.
 void CheckValues(const Json::Value& doc) {
+  for (Json::ArrayIndex i = 0; i < doc["lineups"].size(); ++i) {
+    const int activity = doc["lineups"][i]["activityID"].asInt();
+    if (activity < 0 || activity > 4) Refuse("lineups[" + std::to_string(i) + "].activityID", "must be 0 to 4");
+  }
   if (doc["schedules"].empty()) Refuse("schedules", "must hold at least one schedule");
   for (Json::ArrayIndex i = 0; i < doc["schedules"].size(); ++i) {
     const Json::Value& s = doc["schedules"][i];

@@ -305,6 +305,7 @@ TEST(CatalogueFile, AMalformedFileIsRefusedNamingItsFirstProblem) {
       {[](Json::Value& d) { d["lineups"][0]["channels"][2].removeMember("str_channel_name"); }, "lineups[0].channels[2]: missing \"str_channel_name\""},
       {[](Json::Value& d) { d["broadcast"][1]["genre"] = 7; }, "broadcast[1].genre: must be a string"},
       {[](Json::Value& d) { d["schedules"][0]["minutes"][0] = 0; }, "schedules[0].minutes: must be 1 to 1440"},
+      {[](Json::Value& d) { d["lineups"][1]["activityID"] = 7; }, "lineups[1].activityID: must be 0 to 4"},
       {[](Json::Value& d) { d["virtual channels"][0]["TCServiceId"] = "12x"; }, "virtual channels[0].TCServiceId: must be a decimal service id"},
       {[](Json::Value& d) { d = Json::Value("[1,"); }, "the top level: must be an object"},
   };
