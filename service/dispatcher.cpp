@@ -1,5 +1,7 @@
 #include "dispatcher.h"
 
+#include "FCMarshal.h"
+
 namespace zunde::service {
 namespace {
 
@@ -10,6 +12,7 @@ const char* TypeName(JsonType type) {
     case JsonType::String: return "a string";
     case JsonType::Bool: return "a boolean";
     case JsonType::Array: return "an array";
+    case JsonType::Object: return "an object";
   }
   return "?";
 }
@@ -21,6 +24,7 @@ bool HasType(const Json::Value& value, JsonType type) {
     case JsonType::String: return value.isString();
     case JsonType::Bool: return value.isBool();
     case JsonType::Array: return value.isArray();
+    case JsonType::Object: return value.isObject();
   }
   return false;
 }
@@ -31,7 +35,10 @@ Json::Value ParseRequest(const std::string& payload) {
     return Json::Value(Json::objectValue);
   }
   Json::Value body;
-  if (!Json::Reader().parse(payload, body, false) || !body.isObject()) {
+  if (!Json::Reader().parse(payload, body, false)) throw BadRequest("the request is not a JSON object");
+  // Requests without arguments may come as the null value.
+  if (body.isNull()) return Json::Value(Json::objectValue);
+  if (!body.isObject()) {
     throw BadRequest("the request is not a JSON object");
   }
   return body;
@@ -50,14 +57,15 @@ std::string Write(const Json::Value& reply) { return Json::StyledWriter().write(
 
 }  // namespace
 
-Dispatcher::Dispatcher(Store& store) : store_(store) {
-  for (const MemberTable* table : {&EntryMembers(), &EnvironmentMembers(), &SetTopBoxMembers()}) {
+Dispatcher::Dispatcher(Store& store, const Catalogue& catalogue) : store_(store), catalogue_(catalogue) {
+  for (const MemberTable* table : {&EntryMembers(), &EnvironmentMembers(), &SetTopBoxMembers(), &OperatorMembers(),
+                                   &MatchFinderMembers(), &BroadcastMembers(), &VirtualChannelMembers()}) {
     for (const Member& member : *table) members_[member.name] = &member;
   }
 }
 
 void Dispatcher::Run(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events) {
-  Request request{body, store_, runtime_, events};
+  Request request{body, store_, runtime_, events, catalogue_};
   if (!member.changesState) {
     member.handler(request, reply);
     return;
@@ -99,6 +107,12 @@ void Succeed(Json::Value& reply) { reply["ret"] = true; }
 int CheckedActivity(int activity) {
   if (activity < 0 || activity > 4) throw BadRequest("activity " + std::to_string(activity) + " is not 0 to 4");
   return activity;
+}
+
+unsigned long long ServiceIdOf(Request& request) {
+  unsigned long long id = 0;
+  FCMarshal::VCJsonToServiceId(request.body, id);
+  return id;
 }
 
 }  // namespace zunde::service

@@ -12,7 +12,7 @@ namespace zunde::service {
 
 class Dispatcher {
  public:
-  explicit Dispatcher(Store& store);
+  Dispatcher(Store& store, const Catalogue& catalogue);
 
   // The answer text for `payload` sent to `member`; always a JSON object
   // with "ret", and "error" when the request was refused. `events` receives
@@ -25,6 +25,7 @@ class Dispatcher {
   void Run(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events);
 
   Store& store_;
+  const Catalogue& catalogue_;
   RuntimeState runtime_;
   std::map<std::string, const Member*> members_;
 };

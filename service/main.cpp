@@ -12,7 +12,10 @@
 #include <cstring>
 #include <memory>
 
+#include <fstream>
+
 #include "bus_service.h"
+#include "catalogue.h"
 #include "options.h"
 
 namespace {
@@ -26,6 +29,35 @@ bool MakeFolder(const std::string& dir) {
   return false;
 }
 
+bool Exists(const std::string& path) {
+  struct stat info {};
+  return stat(path.c_str(), &info) == 0;
+}
+
+// The catalogue the options name, else the data folder's, else the
+// built-in set; its guide window starts from now.
+std::unique_ptr<Catalogue> ChooseCatalogue(const Options& options) {
+  std::string path = options.catalogue;
+  if (path.empty() && Exists(options.dataDir + "/catalogue.json")) path = options.dataDir + "/catalogue.json";
+  std::unique_ptr<Catalogue> catalogue;
+  try {
+    catalogue = std::make_unique<Catalogue>(path.empty() ? DefaultCatalogue(options.lineupSize) : LoadCatalogue(path));
+  } catch (const CatalogueError& refused) {
+    std::fprintf(stderr, "zunde-service: catalogue %s: %s\n", path.c_str(), refused.what());
+    return nullptr;
+  }
+  catalogue->now = std::time(nullptr);
+  return catalogue;
+}
+
+int WriteDefaultCatalogue(const Options& options) {
+  std::ofstream file(options.writeDefaultCatalogue);
+  file << Json::StyledWriter().write(CatalogueToJson(DefaultCatalogue(options.lineupSize)));
+  if (file.flush()) return 0;
+  std::fprintf(stderr, "zunde-service: cannot write %s\n", options.writeDefaultCatalogue.c_str());
+  return 1;
+}
+
 gboolean Quit(gpointer loop) {
   g_main_loop_quit(static_cast<GMainLoop*>(loop));
   return G_SOURCE_CONTINUE;
@@ -33,6 +65,8 @@ gboolean Quit(gpointer loop) {
 
 int Serve(const Options& options) {
   if (!MakeFolder(options.dataDir)) return 1;
+  const std::unique_ptr<Catalogue> catalogue = ChooseCatalogue(options);
+  if (!catalogue) return 1;
   std::unique_ptr<Store> store;
   try {
     store = std::make_unique<Store>(options.dataDir + "/zunde-service.db");
@@ -40,7 +74,7 @@ int Serve(const Options& options) {
     std::fprintf(stderr, "zunde-service: %s\n", failed.what());
     return 1;
   }
-  Dispatcher dispatcher(*store);
+  Dispatcher dispatcher(*store, *catalogue);
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   int status = 0;
   {
@@ -73,5 +107,6 @@ int Serve(const Options& options) {
 int main(int argc, char** argv) {
   const Options options = ParseOptions(argc, argv);
   if (options.exitNow) return options.exitCode;
+  if (!options.writeDefaultCatalogue.empty()) return WriteDefaultCatalogue(options);
   return Serve(options);
 }

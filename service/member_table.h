@@ -12,12 +12,13 @@
 #include <string>
 #include <vector>
 
+#include "catalogue.h"
 #include "events.h"
 #include "store.h"
 
 namespace zunde::service {
 
-enum class JsonType { Int, UInt, String, Bool, Array };
+enum class JsonType { Int, UInt, String, Bool, Array, Object };
 
 struct RequiredKey {
   const char* name;
@@ -35,6 +36,7 @@ struct Request {
   Store& store;
   RuntimeState& runtime;
   std::vector<Event>& events;  // sent once the change is committed
+  const Catalogue& catalogue;
 };
 
 // The request asks for something that cannot be: the answer is "ret" false
@@ -59,11 +61,17 @@ using MemberTable = std::vector<Member>;
 const MemberTable& EntryMembers();
 const MemberTable& EnvironmentMembers();
 const MemberTable& SetTopBoxMembers();
+const MemberTable& OperatorMembers();
+const MemberTable& MatchFinderMembers();
+const MemberTable& BroadcastMembers();
+const MemberTable& VirtualChannelMembers();
 
 // Shared by the handlers.
 void Succeed(Json::Value& reply);
 // Throws BadRequest when `activity` is not 0 to 4.
 int CheckedActivity(int activity);
+// The service id under "TCServiceId".
+unsigned long long ServiceIdOf(Request& request);
 
 }  // namespace zunde::service
 

@@ -8,12 +8,17 @@ namespace zunde::service {
 namespace {
 
 const char* const kUsage =
-    "Usage: zunde-service [--data-dir DIR] [--slow-reply-ms N]\n"
+    "Usage: zunde-service [--data-dir DIR] [--slow-reply-ms N] [--catalogue FILE] [--lineup-size N]\n"
+    "       zunde-service [--lineup-size N] --write-default-catalogue FILE\n"
     "Answers the zunde-provider library on the bus that DBUS_SYSTEM_BUS_ADDRESS names\n"
     "(else the system bus), keeping its state in DIR/zunde-service.db.\n"
     "  --data-dir DIR      the state folder, made when missing (default: $STATE_DIRECTORY,\n"
     "                      else $XDG_STATE_HOME/zunde-provider, else ~/.local/state/zunde-provider)\n"
     "  --slow-reply-ms N   how late answers are sent while the slow switch is on (default 3000)\n"
+    "  --catalogue FILE    the channels and guide to offer (default: DIR/catalogue.json when\n"
+    "                      there, else the built-in set)\n"
+    "  --lineup-size N     channels in the built-in set (default 60, at most 100000)\n"
+    "  --write-default-catalogue FILE  write the built-in set as a catalogue file and stop\n"
     "  --help, --version\n";
 
 Options Stop(Options options, int code) {
@@ -22,10 +27,10 @@ Options Stop(Options options, int code) {
   return options;
 }
 
-bool ParseMs(const char* text, int& out) {
+bool ParseNumber(const char* text, int& out, long low, long high) {
   char* end = nullptr;
   const long value = std::strtol(text, &end, 10);
-  if (end == text || *end != '\0' || value < 0 || value > 600000) return false;
+  if (end == text || *end != '\0' || value < low || value > high) return false;
   out = static_cast<int>(value);
   return true;
 }
@@ -58,8 +63,15 @@ Options ParseOptions(int argc, char** argv) {
     }
     if (std::strcmp(arg, "--data-dir") == 0 && hasValue) {
       options.dataDir = argv[++i];
-    } else if (std::strcmp(arg, "--slow-reply-ms") == 0 && hasValue && ParseMs(argv[i + 1], options.slowReplyMs)) {
+    } else if (std::strcmp(arg, "--slow-reply-ms") == 0 && hasValue && ParseNumber(argv[i + 1], options.slowReplyMs, 0, 600000)) {
       ++i;
+    } else if (std::strcmp(arg, "--lineup-size") == 0 && hasValue &&
+               ParseNumber(argv[i + 1], options.lineupSize, 1, 100000)) {
+      ++i;
+    } else if (std::strcmp(arg, "--catalogue") == 0 && hasValue) {
+      options.catalogue = argv[++i];
+    } else if (std::strcmp(arg, "--write-default-catalogue") == 0 && hasValue) {
+      options.writeDefaultCatalogue = argv[++i];
     } else {
       std::fprintf(stderr, "zunde-service: bad argument '%s'\n%s", arg, kUsage);
       return Stop(options, 2);

@@ -9,6 +9,9 @@ namespace zunde::service {
 struct Options {
   std::string dataDir;      // where the store lives; made when missing
   int slowReplyMs = 3000;   // the delay of every answer while the slow switch is on
+  std::string catalogue;    // the catalogue file; "" = DIR/catalogue.json if there, else the default set
+  std::string writeDefaultCatalogue;  // write the default set here and stop
+  int lineupSize = 60;      // channels in the default set
   bool exitNow = false;     // --help or --version was answered, or the line was wrong
   int exitCode = 0;
 };

@@ -12,13 +12,16 @@ namespace {
 pid_t servicePid = -1;
 }
 
-void RunningService::Start(const std::string& dataDir, int slowReplyMs) {
-  const std::string slow = std::to_string(slowReplyMs);
+void RunningService::Start(const std::string& dataDir, int slowReplyMs, const std::vector<std::string>& more) {
+  std::vector<std::string> args = {"zunde-service", "--data-dir", dataDir, "--slow-reply-ms", std::to_string(slowReplyMs)};
+  args.insert(args.end(), more.begin(), more.end());
+  std::vector<char*> argv;
+  for (std::string& arg : args) argv.push_back(arg.data());
+  argv.push_back(nullptr);
   const StartedChild child = StartChild([&](int writeFd) {
     dup2(writeFd, STDOUT_FILENO);
     close(writeFd);
-    execl(ZUNDE_SERVICE_PATH, "zunde-service", "--data-dir", dataDir.c_str(), "--slow-reply-ms", slow.c_str(),
-          static_cast<char*>(nullptr));
+    execv(ZUNDE_SERVICE_PATH, argv.data());
   });
   servicePid = child.pid;
   ASSERT_EQ(child.firstLine, "zunde-service ready");

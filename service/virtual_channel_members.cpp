@@ -1,0 +1,281 @@
+// The virtual channels family: computed programme slots with play lists,
+// logos and images under each channel's image base, the on-demand slot of
+// a channel (under "vc/on demand/<service id>") and the usage events (under
+// "vc/kpi"). A slot's event id is "<service id>:<start>"; the programme
+// indicator asks for the slot before (-1), the same (0) or after (1).
+#include <ctime>
+
+#include "FCMarshal.h"
+#include "FCVirtualChannelsAPI.h"
+#include "FCVirtualProgramData.h"
+#include "member_table.h"
+
+namespace zunde::service {
+namespace {
+
+using T = JsonType;
+
+const char kKpiKey[] = "vc/kpi";
+const Json::ArrayIndex kKpiKept = 1000;
+const int kPlaylistItems = 3;
+
+std::string OnDemandKey(unsigned long long id) { return "vc/on demand/" + std::to_string(id); }
+
+const VirtualChannel& ChannelOf(Request& request, unsigned long long id) {
+  const VirtualChannel* channel = request.catalogue.VirtualById(id);
+  if (channel == nullptr) throw BadRequest("no virtual channel " + std::to_string(id));
+  return *channel;
+}
+
+FCVirtualProgramId IdOf(Request& request) {
+  FCVirtualProgramId id;
+  FCMarshal::JsonToVirtualProgramId(request.body, id);
+  return id;
+}
+
+FCVirtualProgramData ProgramOf(const VirtualChannel& channel, const Slot& slot) {
+  const std::string start = std::to_string(slot.start);
+  FCVirtualProgramData program;
+  program.SetServiceId(channel.serviceId);
+  program.SetEventId(std::to_string(channel.serviceId) + ":" + start);
+  program.SetContentType("playlist");
+  program.SetContentUri(channel.imageBase + "/stream/" + start + ".m3u8");
+  program.SetStartTime(slot.start);
+  program.SetDuration(slot.duration);
+  program.SetTitle(slot.title);
+  std::vector<FCVirtualPlaylistItem> playlist(kPlaylistItems);
+  for (int i = 0; i < kPlaylistItems; ++i) {
+    playlist[i].SetOrder(i + 1);
+    playlist[i].SetItemId(start + "-" + std::to_string(i + 1));
+    playlist[i].SetTitle(slot.title + " (part " + std::to_string(i + 1) + ")");
+    playlist[i].SetContentUri(channel.imageBase + "/clips/" + start + "-" + std::to_string(i + 1) + ".mp4");
+    playlist[i].SetDuration(slot.duration / kPlaylistItems);
+  }
+  program.SetPlaylist(playlist);
+  program.SetPosterUrl(channel.imageBase + "/poster/" + start + ".jpg");
+  program.SetPosterIndex(std::to_string(slot.index % 1000));
+  program.SetShortDescription(slot.title + " on " + channel.name);
+  return program;
+}
+
+Slot SlotAt(Request& request, const VirtualChannel& channel, time_t time) {
+  Slot slot;
+  if (!request.catalogue.SlotAt(std::to_string(channel.serviceId), channel.genre, time, request.catalogue.WindowEnd(),
+                                slot)) {
+    throw BadRequest("no programme on virtual channel " + std::to_string(channel.serviceId) + " at " + std::to_string(time));
+  }
+  return slot;
+}
+
+void ReplyProgram(const FCVirtualProgramData& program, Json::Value& reply) {
+  FCMarshal::VirtualProgramDataToJson(program, reply);
+  Succeed(reply);
+}
+
+void ReplyImage(Request& request, Json::Value& reply, const char* kind) {
+  const FCVirtualProgramId id = IdOf(request);
+  FCMarshal::ProgramLogoToJson(
+      ChannelOf(request, id.GetServiceId()).imageBase + "/" + kind + "/" + std::to_string(id.GetStartTime()) + ".jpg", reply);
+  Succeed(reply);
+}
+
+// --- programmes ---
+
+void ProgramList(Request& request, Json::Value& reply) {
+  const VirtualChannel& channel = ChannelOf(request, ServiceIdOf(request));
+  unsigned long start = 0;
+  unsigned int duration = 0;
+  FCMarshal::JsonToStartTime(request.body, start);
+  FCMarshal::JsonToDuration(request.body, duration);
+  std::map<unsigned int, FCVirtualProgramData> programs;
+  for (const Slot& slot : request.catalogue.SlotsBetween(std::to_string(channel.serviceId), channel.genre, start,
+                                                         static_cast<time_t>(start) + duration,
+                                                         request.catalogue.WindowEnd())) {
+    programs[slot.start] = ProgramOf(channel, slot);
+  }
+  FCMarshal::VirtualProgramMapToJson(programs, reply);
+  Succeed(reply);
+}
+
+void ProgramWithIndicator(Request& request, Json::Value& reply) {
+  EProgramIndicator indicator;
+  FCMarshal::JsonToEProgramIndicator(request.body, indicator);
+  const FCVirtualProgramId id = IdOf(request);
+  const VirtualChannel& channel = ChannelOf(request, id.GetServiceId());
+  const Slot same = SlotAt(request, channel, id.GetStartTime());
+  time_t at = same.start;
+  if (indicator == 1) at = static_cast<time_t>(same.start) + same.duration;
+  if (indicator == -1) at = static_cast<time_t>(same.start) - 1;
+  if (indicator < -1 || indicator > 1) throw BadRequest("programme indicator " + std::to_string(indicator) + " is not -1 to 1");
+  ReplyProgram(ProgramOf(channel, SlotAt(request, channel, at)), reply);
+}
+
+// An on-demand slot is found by its event id before the schedule is asked.
+void Program(Request& request, Json::Value& reply) {
+  const FCVirtualProgramId id = IdOf(request);
+  Json::Value stored = request.store.Get(OnDemandKey(id.GetServiceId()));
+  FCVirtualProgramData program;
+  if (!stored.isNull() && stored["id"].asString() == id.GetEventId()) {
+    FCMarshal::JsonToVirtualProgramData(stored, program);
+    return ReplyProgram(program, reply);
+  }
+  const VirtualChannel& channel = ChannelOf(request, id.GetServiceId());
+  ReplyProgram(ProgramOf(channel, SlotAt(request, channel, id.GetStartTime())), reply);
+}
+
+void Present(Request& request, Json::Value& reply) {
+  const VirtualChannel& channel = ChannelOf(request, ServiceIdOf(request));
+  ReplyProgram(ProgramOf(channel, SlotAt(request, channel, std::time(nullptr))), reply);
+}
+
+// --- images ---
+
+void ChannelLogo(Request& request, Json::Value& reply) {
+  FCVirtualChannelsAPI::EChannelLogoSize size;
+  FCMarshal::JsonToLogoSize(request.body, size);
+  FCMarshal::ChannelLogoToJson(ChannelOf(request, ServiceIdOf(request)).imageBase + "/logo_" + std::to_string(size) + ".png",
+                               reply);
+  Succeed(reply);
+}
+
+void Thumbnail(Request& request, Json::Value& reply) { ReplyImage(request, reply, "thumbnail"); }
+void Background(Request& request, Json::Value& reply) { ReplyImage(request, reply, "background"); }
+
+// The download id is the same for the same image: from the start time and
+// the image type, never 0.
+void Image(Request& request, Json::Value& reply) {
+  FCVirtualChannelsAPI::EProgramLogoType type;
+  FCMarshal::JsonToProgramLogoType(request.body, type);
+  const FCVirtualProgramId id = IdOf(request);
+  const std::string base = ChannelOf(request, id.GetServiceId()).imageBase;
+  FCMarshal::ImageDownloadIdToJson(static_cast<long>(id.GetStartTime() / 60 % 1000000) * 10 + type % 10 + 1, reply);
+  FCMarshal::ProgramLogoToJson(base + "/image_" + std::to_string(type) + "/" + std::to_string(id.GetStartTime()) + ".jpg",
+                               reply);
+  Succeed(reply);
+}
+
+// --- on-demand slots ---
+
+FCVirtualProgramId IdOfProgram(const FCVirtualProgramData& program) {
+  FCVirtualProgramId id;
+  id.SetServiceId(program.GetServiceId());
+  id.SetEventId(program.GetEventId());
+  id.SetStartTime(program.GetStartTime());
+  id.SetDuration(program.GetDuration());
+  return id;
+}
+
+void SetOnDemand(Request& request, Json::Value& reply) {
+  const unsigned long long serviceId = ServiceIdOf(request);
+  ChannelOf(request, serviceId);
+  FCVirtualProgramData program;
+  FCMarshal::JsonToVirtualProgramData(request.body, program);
+  program.SetServiceId(serviceId);
+  if (program.GetEventId().empty()) program.SetEventId("on demand:" + std::to_string(program.GetStartTime()));
+  Json::Value stored(Json::objectValue);
+  FCMarshal::VirtualProgramDataToJson(program, stored);
+  request.store.Put(OnDemandKey(serviceId), stored);
+  FCMarshal::VirtualProgramIdToJson(IdOfProgram(program), reply);
+  Succeed(reply);
+}
+
+void UnsetOnDemand(Request& request, Json::Value& reply) {
+  const FCVirtualProgramId id = IdOf(request);
+  const Json::Value stored = request.store.Get(OnDemandKey(id.GetServiceId()));
+  if (stored.isNull() || stored["id"].asString() != id.GetEventId()) throw BadRequest("no such on-demand slot");
+  request.store.Erase(OnDemandKey(id.GetServiceId()));
+  Succeed(reply);
+}
+
+void OnDemandIdentifier(Request& request, Json::Value& reply) {
+  Json::Value stored = request.store.Get(OnDemandKey(ServiceIdOf(request)));
+  if (stored.isNull()) throw BadRequest("no on-demand slot on that channel");
+  FCVirtualProgramData program;
+  FCMarshal::JsonToVirtualProgramData(stored, program);
+  FCMarshal::VirtualProgramIdToJson(IdOfProgram(program), reply);
+  Succeed(reply);
+}
+
+// --- channels, configuration, agreement ---
+
+void Config(Request& request, Json::Value& reply) {
+  FCMarshal::VirtualConfigToJson(request.catalogue.virtualConfig, reply);
+  Succeed(reply);
+}
+
+void FeaturedInfo(Request& request, Json::Value& reply) {
+  const VirtualChannel& channel = ChannelOf(request, ServiceIdOf(request));
+  FCVirtualChannelInfo info;
+  info.SetMajor(channel.major);
+  info.SetChannelName(channel.name);
+  info.SetLogoCollection({{"small", 0}, {"medium", 1}, {"large", 2}});
+  FCMarshal::VirtualChannelInfoToJson(info, reply);
+  Succeed(reply);
+}
+
+void ServiceIdFromOnTv(Request& request, Json::Value& reply) {
+  std::string provider;
+  std::string service;
+  FCMarshal::JsonToOnTvProviderId(request.body, provider);
+  FCMarshal::JsonToOnTvServiceId(request.body, service);
+  for (const VirtualChannel& channel : request.catalogue.virtualChannels) {
+    if (channel.provider == provider && channel.service == service) {
+      FCMarshal::VCServiceIdToJson(channel.serviceId, reply);
+      return Succeed(reply);
+    }
+  }
+  throw BadRequest("no virtual channel for \"" + provider + "\" and \"" + service + "\"");
+}
+
+// The last thousand events are kept, oldest first.
+void LogKpi(Request& request, Json::Value& reply) {
+  FCVirtualChannelsAPI::EKPIType type;
+  std::string name;
+  std::string category;
+  std::string desc;
+  FCMarshal::JsonToKPIInfo(request.body, type, name, category, desc);
+  Json::Value event(Json::objectValue);
+  FCMarshal::KPIInfoToJson(type, name, category, desc, event);
+  event["time"] = Json::Int64(std::time(nullptr));
+  Json::Value log = request.store.Get(kKpiKey);
+  Json::Value kept(Json::arrayValue);
+  for (Json::ArrayIndex i = log.size() >= kKpiKept ? log.size() - kKpiKept + 1 : 0; i < log.size(); ++i) kept.append(log[i]);
+  kept.append(event);
+  request.store.Put(kKpiKey, kept);
+  Succeed(reply);
+}
+
+void ViewingAgreement(Request& request, Json::Value& reply) { reply["ret"] = request.catalogue.viewingAgreement; }
+void ProgramInfoAvailable(Request& request, Json::Value& reply) {
+  reply["ret"] = !request.catalogue.virtualChannels.empty();
+}
+
+const RequiredKey kServiceId{"TCServiceId", T::String};
+const RequiredKey kProgramId{"program_id", T::Object};
+
+}  // namespace
+
+const MemberTable& VirtualChannelMembers() {
+  static const MemberTable table = {
+      {"GetProgramList", {kServiceId, {"start_time", T::UInt}, {"duration", T::UInt}}, ProgramList, false},
+      {"GetProgramWithIndicator", {{"program_indicator", T::Int}, kProgramId}, ProgramWithIndicator, false},
+      {"GetProgram", {kProgramId}, Program, false},
+      {"GetPresentProgram", {kServiceId}, Present, false},
+      {"GetChannelLogo", {kServiceId}, ChannelLogo, false},
+      {"GetProgramThumbnail", {kProgramId}, Thumbnail, false},
+      {"GetProgramImage", {kProgramId}, Image, false},
+      {"GetProgramBackground", {kProgramId}, Background, false},
+      {"SetOnDemandProgram", {kServiceId}, SetOnDemand, true},
+      {"UnsetOnDemandProgram", {kProgramId}, UnsetOnDemand, true},
+      {"GetOnDemandIdentifier", {kServiceId}, OnDemandIdentifier, false},
+      {"GetVCConfig", {}, Config, false},
+      {"GetFeaturedVirtualChannelInfo", {kServiceId}, FeaturedInfo, false},
+      {"GetServiceIdFromOnTVProviderAndService", {}, ServiceIdFromOnTv, false},
+      {"SendLogKPI", {{"KPIType", T::Int}}, LogKpi, true},
+      {"GetViewingAgreement", {}, ViewingAgreement, false},
+      {"KivoProgramInfoIsAvailable", {}, ProgramInfoAvailable, false},
+  };
+  return table;
+}
+
+}  // namespace zunde::service
