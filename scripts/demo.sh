@@ -104,15 +104,16 @@ cli stb get-zip 0
 cli stb channels 0 0
 
 step "Broadcast channels by genre"
-cli rf set-genre news
+cli catalogue genres 0
+cli rf set-genre G01
 cli rf get-genre
-cli rf count news
-cli rf channels news
+cli rf count G01
+cli rf channels G01
 
 step "Virtual channels"
 cli virtual config
-cli virtual present 8193
-cli virtual programs 8193 "$now" 7200
+cli virtual present 281466386841601
+cli virtual programs 281466386841601 "$now" 7200
 
 step "Events arriving in a monitor"
 "$build/cli/zunde-cli" monitor --count 3 --timeout 10 2>"$work/monitor.err" &
