@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <map>
 #include <string>
@@ -185,7 +186,9 @@ class RatioReporter : public Base {
 };
 
 void Ratio(FILE* out, const char* what, double value, double target) {
-  if (target > 0) {
+  if (!std::isfinite(value) || value <= 0) {
+    std::fprintf(out, "  %-58s    n/a  (not run)\n", what);
+  } else if (target > 0) {
     std::fprintf(out, "  %-58s %6.2f  (target <= %.2f: %s)\n", what, value, target, value <= target ? "met" : "MISSED");
   } else {
     std::fprintf(out, "  %-58s %6.2f\n", what, value);
