@@ -60,7 +60,7 @@ void ReadKeyedMap(Json::Value& root, const char* key, const char* mapKeyKey, std
   ReadArrayMember(root, key, [&](Json::Value& element) {
     Value value;
     readValue(element, value);
-    map.insert(std::make_pair(Member(element, mapKeyKey).asString(), value));
+    map.insert(std::make_pair(Member(element, mapKeyKey).asString(), std::move(value)));
   });
 }
 

@@ -28,10 +28,11 @@ void WriteList(std::vector<Record>& records, const char* key, Json::Value& root)
 
 template <class Record>
 void ReadList(Json::Value& root, const char* key, std::vector<Record>& records) {
+  // Each record is read in place: no copy of a record that may carry a
+  // dozen strings.
   ReadArrayMember(root, key, [&records](Json::Value& element) {
-    Record record;
-    Record::FromJson(element, record);
-    records.push_back(record);
+    records.emplace_back();
+    Record::FromJson(element, records.back());
   });
 }
 

@@ -1,0 +1,38 @@
+// What the payload benchmark needs besides the benchmarks themselves: the
+// answering service scripted over its control interface, a bare libdbus
+// client doing the library's exchange, the reply texts, and peak memory.
+#ifndef ZUNDE_BENCH_SUPPORT_H
+#define ZUNDE_BENCH_SUPPORT_H
+
+#include <dbus/dbus.h>
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+namespace zunde::bench {
+
+// From now on the service answers `member` with `payload` (status 0).
+void Script(const std::string& member, const std::string& payload);
+// Lets the service forget the calls it recorded, so big requests do not pile up there.
+void ForgetCalls();
+
+// A private connection to the bus, shareable between threads.
+DBusConnection* BareConnection();
+// One "MethodCall" exactly as the library sends it, answered and released.
+bool BareCall(DBusConnection* connection, const char* member, const std::string& request);
+
+// A JSON text of about `size` bytes with "ret": true.
+std::string PaddedText(std::size_t size);
+// A line-up of `count` channels, as the service sends it.
+std::string ChannelListText(int count);
+// A week of hourly programmes on `channels` channels, as the service sends it.
+std::string WeekProgramMapText(int channels);
+
+// Peak resident memory above the idle process while `receive` runs once, in
+// a child forked for it after `warmUp` ran; -1 when it cannot be measured.
+long PeakBytesDuring(const std::function<void()>& warmUp, const std::function<void()>& receive);
+
+}  // namespace zunde::bench
+
+#endif

@@ -1,0 +1,272 @@
+// What applications feel: every library call next to a bare libdbus client
+// doing the same exchange with the same service in the same run, large
+// replies next to the bare transfer plus a jsoncpp parse of the same text,
+// four threads on the shared connection, and peak memory for a 4 MiB reply.
+// Run:
+//   build/benchmarks/payload_benchmark --benchmark_min_time=0.2 --benchmark_repetitions=3
+// The ratios follow the table (on standard error with --benchmark_format=json).
+#include <benchmark/benchmark.h>
+#include <json/json.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "FCElementData.h"
+#include "FCRemoteContentOnTV_MSO_Proxy.h"
+#include "FCRemoteContentOnTV_Proxy.h"
+#include "bench_support.h"
+#include "child_process.h"
+#include "test_bus.h"
+
+namespace {
+
+using namespace zunde::bench;
+using PassThrough = bool (FCRemoteContentOnTV_MSO_Proxy::*)(std::string const&, std::string&);
+
+const char* const kSmallReply = R"({"ret": true, "country": "DE", "language": "de"})";
+const std::string kSmallRequest = "{\n   \"country\" : \"DE\",\n   \"language\" : \"de\"\n}\n";
+const std::string kActivityRequest = "{\n   \"activityID\" : 1\n}\n";
+const auto kActivity = static_cast<FCRemoteContent_MSOAPI::Act>(1);
+
+// One payload size: the member that carries it and the pass-through method calling that member.
+struct Size {
+  const char* label;
+  std::size_t bytes;
+  const char* member;
+  PassThrough call;
+};
+const Size kSizes[] = {
+    {"100B", 100, "GetCertRule", &FCRemoteContentOnTV_MSO_Proxy::GetCertRule},
+    {"64KiB", 64 * 1024, "GetGenreList", &FCRemoteContentOnTV_MSO_Proxy::GetGenreList},
+    {"4MiB", 4 * 1024 * 1024, "GetVODProviders", &FCRemoteContentOnTV_MSO_Proxy::GetVODProviders},
+};
+
+DBusConnection* sharedBare = nullptr;  // one connection for every bare benchmark and thread
+
+void Payload(benchmark::State& state, std::size_t bytes) {
+  state.counters["payload"] = static_cast<double>(bytes);
+  state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes));
+}
+
+void BareSmall(benchmark::State& state) {
+  for (auto _ : state) {
+    if (!BareCall(sharedBare, "GetRemoteContentEnv", kSmallRequest)) state.SkipWithError("no reply");
+  }
+  Payload(state, kSmallRequest.size());
+}
+
+void TypedSmall(benchmark::State& state) {
+  FCRemoteContentOnTV_Proxy proxy;
+  std::string country;
+  std::string language;
+  for (auto _ : state) benchmark::DoNotOptimize(proxy.GetRemoteContentEnv(country, language));
+  Payload(state, kSmallRequest.size());
+}
+
+// Request and reply of the same size; big requests are dropped from the service's record as they come.
+void BareSized(benchmark::State& state, const Size& size) {
+  const std::string text = PaddedText(size.bytes);
+  Script(size.member, text);
+  for (auto _ : state) {
+    if (!BareCall(sharedBare, size.member, text)) state.SkipWithError("no reply");
+    state.PauseTiming();
+    ForgetCalls();
+    state.ResumeTiming();
+  }
+  Payload(state, size.bytes);
+}
+
+void PassThroughSized(benchmark::State& state, const Size& size) {
+  const std::string text = PaddedText(size.bytes);
+  Script(size.member, text);
+  FCRemoteContentOnTV_MSO_Proxy proxy;
+  for (auto _ : state) {
+    std::string reply;
+    if (!(proxy.*size.call)(text, reply)) state.SkipWithError("no reply");
+    state.PauseTiming();
+    ForgetCalls();
+    state.ResumeTiming();
+  }
+  Payload(state, size.bytes);
+}
+
+// A large reply three ways: bare transfer, jsoncpp alone, and the typed method.
+void BareLarge(benchmark::State& state, const char* member, const std::string& text) {
+  Script(member, text);
+  for (auto _ : state) {
+    if (!BareCall(sharedBare, member, kActivityRequest)) state.SkipWithError("no reply");
+  }
+  Payload(state, text.size());
+}
+
+void ParseLarge(benchmark::State& state, const std::string& text) {
+  for (auto _ : state) {
+    Json::Value root;
+    Json::Reader reader;
+    benchmark::DoNotOptimize(reader.parse(text, root, true));
+  }
+  Payload(state, text.size());
+}
+
+void TypedChannels(benchmark::State& state, const std::string& text) {
+  Script("GetFullChannelList", text);
+  FCRemoteContentOnTV_MSO_Proxy proxy;
+  for (auto _ : state) {
+    std::vector<FCRemoteChannel> channels;
+    benchmark::DoNotOptimize(proxy.GetFullChannelList(kActivity, channels));
+  }
+  Payload(state, text.size());
+}
+
+void TypedProgramMap(benchmark::State& state, const std::string& text) {
+  Script("GetProgramMap", text);
+  FCRemoteContentOnTV_MSO_Proxy proxy;
+  for (auto _ : state) {
+    std::vector<std::string> channelIds{"PS0", "PS1"};
+    FCFilterCriteria criteria;
+    std::map<std::string, std::vector<FCRemoteProgram> > programs;
+    benchmark::DoNotOptimize(proxy.GetProgramMap(kActivity, channelIds, 1767225600, 7 * 24 * 3600, criteria, programs));
+  }
+  Payload(state, text.size());
+}
+
+void Register(const std::string& channels500, const std::string& channels5000, const std::string& week) {
+  benchmark::RegisterBenchmark("Bare/Small", BareSmall)->UseRealTime();
+  benchmark::RegisterBenchmark("Typed/Small", TypedSmall)->UseRealTime();
+  for (const Size& size : kSizes) {
+    benchmark::RegisterBenchmark(("Bare/" + std::string(size.label)).c_str(), BareSized, size)->UseRealTime();
+    benchmark::RegisterBenchmark(("PassThrough/" + std::string(size.label)).c_str(), PassThroughSized, size)
+        ->UseRealTime();
+  }
+  const std::pair<const char*, const std::string*> lineUps[] = {{"Channels500", &channels500},
+                                                                {"Channels5000", &channels5000}};
+  for (const auto& [label, text] : lineUps) {
+    benchmark::RegisterBenchmark(("Bare/" + std::string(label)).c_str(), BareLarge, "GetFullChannelList", *text)
+        ->UseRealTime();
+    benchmark::RegisterBenchmark(("Parse/" + std::string(label)).c_str(), ParseLarge, *text)->UseRealTime();
+    benchmark::RegisterBenchmark(("Typed/" + std::string(label)).c_str(), TypedChannels, *text)->UseRealTime();
+  }
+  benchmark::RegisterBenchmark("Bare/ProgramMapWeek", BareLarge, "GetProgramMap", week)->UseRealTime();
+  benchmark::RegisterBenchmark("Parse/ProgramMapWeek", ParseLarge, week)->UseRealTime();
+  benchmark::RegisterBenchmark("Typed/ProgramMapWeek", TypedProgramMap, week)->UseRealTime();
+  benchmark::RegisterBenchmark("Bare/Small", BareSmall)->Threads(4)->UseRealTime();
+  benchmark::RegisterBenchmark("Typed/Small", TypedSmall)->Threads(4)->UseRealTime();
+}
+
+// Keeps each run's time per call, keyed "Name" or "Name@4" for four threads, for the ratios; with
+// --benchmark_repetitions the median of the repetitions counts.
+template <typename Base>
+class RatioReporter : public Base {
+ public:
+  using Run = benchmark::BenchmarkReporter::Run;
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration || run.iterations == 0) continue;
+      std::string key = run.run_name.function_name;
+      if (run.threads > 1) key += "@" + std::to_string(run.threads);
+      times_[key].push_back(run.GetAdjustedRealTime());
+    }
+    Base::ReportRuns(runs);
+  }
+  double Time(const std::string& key) const {
+    const auto found = times_.find(key);
+    if (found == times_.end()) return 0;
+    std::vector<double> times = found->second;
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+  }
+
+ private:
+  std::map<std::string, std::vector<double> > times_;
+};
+
+void Ratio(FILE* out, const char* what, double value, double target) {
+  if (!std::isfinite(value) || value <= 0) {
+    std::fprintf(out, "  %-58s    n/a  (not run)\n", what);
+  } else if (target > 0) {
+    std::fprintf(out, "  %-58s %6.2f  (target <= %.2f: %s)\n", what, value, target, value <= target ? "met" : "MISSED");
+  } else {
+    std::fprintf(out, "  %-58s %6.2f\n", what, value);
+  }
+}
+
+template <typename Reporter>
+void PrintRatios(const Reporter& r, FILE* out, long bareBytes, long libraryBytes) {
+  std::fprintf(out, "\nRatios:\n");
+  Ratio(out, "typed small call / bare round trip", r.Time("Typed/Small") / r.Time("Bare/Small"), 1.10);
+  for (const Size& size : kSizes) {
+    const std::string what = std::string("pass-through ") + size.label + " / bare round trip";
+    Ratio(out, what.c_str(), r.Time(std::string("PassThrough/") + size.label) / r.Time(std::string("Bare/") + size.label),
+          0);
+  }
+  for (const char* label : {"Channels500", "Channels5000", "ProgramMapWeek"}) {
+    const std::string name(label);
+    const std::string what = name + " / (bare transfer + jsoncpp parse)";
+    Ratio(out, what.c_str(), r.Time("Typed/" + name) / (r.Time("Bare/" + name) + r.Time("Parse/" + name)),
+          name == "Channels5000" ? 1.25 : 0);
+  }
+  Ratio(out, "typed small call, 4 threads / bare, 4 threads on one connection",
+        r.Time("Typed/Small@4") / r.Time("Bare/Small@4"), 1.10);
+  const double reply = 4.0 * 1024 * 1024;
+  Ratio(out, "peak memory above idle, 4 MiB reply, bare libdbus / reply size", bareBytes / reply, 0);
+  Ratio(out, "peak memory above idle, 4 MiB reply, pass-through / reply size", libraryBytes / reply, 2.25);
+}
+
+template <typename Base>
+void Run(FILE* out, long bareBytes, long libraryBytes) {
+  RatioReporter<Base> reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  PrintRatios(reporter, out, bareBytes, libraryBytes);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  bool json = false;
+  for (int i = 1; i < argc; ++i) json = json || std::string(argv[i]) == "--benchmark_format=json";
+  benchmark::Initialize(&argc, argv);
+  zunde::testing::TestBus::Start();
+  pid_t service = zunde::testing::StartChild([](int writeFd) {
+                          dup2(writeFd, STDOUT_FILENO);
+                          close(writeFd);
+                          execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", "--reply-all", kSmallReply,
+                                static_cast<char*>(nullptr));
+                        }).pid;
+
+  // Peak memory first, in fresh children, before this process has touched the library.
+  const std::string big = PaddedText(kSizes[2].bytes);
+  Script(kSizes[2].member, big);
+  const long bareBytes = PeakBytesDuring([] { BareCall(BareConnection(), "GetRemoteContentEnv", kSmallRequest); },
+                                         [] { BareCall(BareConnection(), kSizes[2].member, "{}"); });
+  const long libraryBytes = PeakBytesDuring(
+      [] {
+        std::string reply;
+        FCRemoteContentOnTV_MSO_Proxy().GetCertRule("{}", reply);
+      },
+      [] {
+        std::string reply;
+        FCRemoteContentOnTV_MSO_Proxy().GetVODProviders("{}", reply);
+      });
+  ForgetCalls();
+
+  sharedBare = BareConnection();
+  const std::string channels500 = ChannelListText(500);
+  const std::string channels5000 = ChannelListText(5000);
+  const std::string week = WeekProgramMapText(50);
+  std::fprintf(stderr, "reply texts: 500 channels %zu B, 5000 channels %zu B, week map (50 channels) %zu B\n",
+               channels500.size(), channels5000.size(), week.size());
+  Register(channels500, channels5000, week);
+  if (json) {
+    Run<benchmark::JSONReporter>(stderr, bareBytes, libraryBytes);
+  } else {
+    Run<benchmark::ConsoleReporter>(stdout, bareBytes, libraryBytes);
+  }
+  zunde::testing::StopChild(service);
+  zunde::testing::TestBus::Stop();
+  return 0;
+}
