@@ -29,10 +29,15 @@ void WriteList(std::vector<Record>& records, const char* key, Json::Value& root)
 template <class Record>
 void ReadList(Json::Value& root, const char* key, std::vector<Record>& records) {
   // Each record is read in place: no copy of a record that may carry a
-  // dozen strings.
+  // dozen strings. A record whose reading throws does not stay behind.
   ReadArrayMember(root, key, [&records](Json::Value& element) {
     records.emplace_back();
-    Record::FromJson(element, records.back());
+    try {
+      Record::FromJson(element, records.back());
+    } catch (...) {
+      records.pop_back();
+      throw;
+    }
   });
 }
 
