@@ -13,6 +13,7 @@
 #include "FCIPCConnection.h"
 #include "FCMessageBuffer.h"
 #include "FCRemoteContentOnTV_Proxy.h"
+#include "bench_support.h"
 #include "child_process.h"
 #include "test_bus.h"
 
@@ -23,30 +24,12 @@ const std::string kRequest = "{\n   \"country\" : \"DE\",\n   \"language\" : \"d
 
 // The same wire exchange as the library's, written directly against libdbus.
 void BM_BareLibdbusRoundTrip(benchmark::State& state) {
-  DBusError error;
-  dbus_error_init(&error);
-  DBusConnection* connection = dbus_bus_get_private(DBUS_BUS_SYSTEM, &error);
-  const char* member = "GetRemoteContentEnv";
-  const char* bytes = kRequest.data();
-  const dbus_int32_t length = static_cast<dbus_int32_t>(kRequest.size());
+  DBusConnection* connection = zunde::bench::BareConnection();
   for (auto _ : state) {
-    DBusMessage* call = dbus_message_new_method_call("com.velmora.FCCallListener", "/com/velmora/Object",
-                                                     "com.velmora.FCCallListener", "MethodCall");
-    DBusMessageIter args;
-    DBusMessageIter array;
-    dbus_message_iter_init_append(call, &args);
-    dbus_message_iter_append_basic(&args, DBUS_TYPE_STRING, &member);
-    dbus_message_iter_append_basic(&args, DBUS_TYPE_INT32, &length);
-    dbus_message_iter_open_container(&args, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE_AS_STRING, &array);
-    dbus_message_iter_append_fixed_array(&array, DBUS_TYPE_BYTE, &bytes, length);
-    dbus_message_iter_close_container(&args, &array);
-    DBusMessage* reply = dbus_connection_send_with_reply_and_block(connection, call, -1, &error);
-    dbus_message_unref(call);
-    if (reply == nullptr) {
-      state.SkipWithError(error.message);
+    if (!zunde::bench::BareCall(connection, "GetRemoteContentEnv", kRequest)) {
+      state.SkipWithError("the bare call was not answered");
       break;
     }
-    dbus_message_unref(reply);
   }
   dbus_connection_close(connection);
   dbus_connection_unref(connection);
