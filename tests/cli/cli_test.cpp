@@ -1,8 +1,10 @@
 // The real zunde-cli against the real zunde-service on the test bus.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -27,8 +29,12 @@ std::string ReadAll(FILE* stream) {
   return text;
 }
 
+// The service's data, one folder per test process.
+std::string DataDir() { return ::testing::TempDir() + "zunde-cli-data-" + std::to_string(getpid()); }
+
 Ran RunCli(const std::string& args) {
-  const std::string errFile = ::testing::TempDir() + "zunde-cli-stderr";
+  // One file per test process: ctest runs the tests of this suite in parallel.
+  const std::string errFile = ::testing::TempDir() + "zunde-cli-stderr-" + std::to_string(getpid());
   FILE* child = popen((ZUNDE_CLI_PATH " " + args + " 2>" + errFile).c_str(), "r");
   Ran ran;
   ran.out = ReadAll(child);
@@ -41,8 +47,11 @@ Ran RunCli(const std::string& args) {
 
 class Cli : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() { RunningService::Start(::testing::TempDir() + "zunde-cli-data"); }
-  static void TearDownTestSuite() { RunningService::Stop(); }
+  static void SetUpTestSuite() { RunningService::Start(DataDir()); }
+  static void TearDownTestSuite() {
+    RunningService::Stop();
+    std::filesystem::remove_all(DataDir());
+  }
 };
 
 struct StatusCase {
@@ -92,7 +101,7 @@ TEST_F(Cli, MonitorPrintsAnEventAsItArrives) {
 TEST_F(Cli, AbsentServiceIsStatusThreeWithHowToStartIt) {
   RunningService::Stop();
   const Ran ran = RunCli("env get");
-  RunningService::Start(::testing::TempDir() + "zunde-cli-data");
+  RunningService::Start(DataDir());
   EXPECT_EQ(ran.status, 3);
   EXPECT_NE(ran.err.find("zunde-service does not answer"), std::string::npos) << ran.err;
   EXPECT_NE(ran.err.find("start it with `zunde-service --data-dir DIR`"), std::string::npos);
