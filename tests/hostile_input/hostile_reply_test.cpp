@@ -3,12 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "../proxies/proxy_harness.h"
-#include "FCMatchFinder_Proxy.h"
-#include "FCRemoteContentOnTV_MSO_Proxy.h"
-#include "FCRemoteContentOnTV_Proxy.h"
-#include "FCVirtualChannels_Proxy.h"
-#include "MBRNetworkChannelManager_Proxy.h"
-#include "RFNetworkChannelManager_Proxy.h"
 #include "ZundeProvider.h"
 #include "hostile_input.h"
 #include "json_text.h"
@@ -24,10 +18,6 @@ static std::string OutputText(const FCMBRNetworkChannel& c) { return std::to_str
 static std::string OutputText(const FCMBRNetworkChannelTable& t) {
   return zunde::testing::OutputText(t.GetNetworkChannelList());
 }
-static std::string OutputText(const FCRFNetworkChannelTable& t) {
-  return zunde::testing::OutputText(t.GetRFNetworkChannelList());
-}
-static std::string OutputText(const FCVirtualProgramData& p) { return p.GetTitle(); }
 
 namespace {
 
@@ -46,11 +36,11 @@ enum Kind { kOver, kUnder, kCut, kNotUtf8, kDeep, kRetText, kNotObject, kTexts, 
 const char* const kKindNames[] = {"OverBusLimit", "UnderBusLimit", "Truncated", "NotUtf8", "Nested100k",
                                   "RetIsText", "NotAnObject", "MembersAreText", "MembersAreArrays", "KeysTwice"};
 
-std::string Rewritten(const std::string& good, const Json::Value& value) {
+// The good reply with `value` in place of "ret" (ret), or of every other member.
+std::string Replaced(const std::string& good, const Json::Value& value, bool ret = false) {
   Json::Value root = Parsed(good);
-  for (const std::string& name : root.getMemberNames()) {
-    if (name != "ret") root[name] = value;
-  }
+  for (const std::string& name : root.getMemberNames())
+    if ((name == "ret") == ret) root[name] = value;
   return Compact(root);
 }
 std::string Hostile(Kind kind, const std::string& good) {
@@ -62,14 +52,10 @@ std::string Hostile(Kind kind, const std::string& good) {
         text.insert(at + 2, "\xff\xfe");
       return text;
     case kDeep: return std::string(100000, '[');
-    case kRetText: {
-      Json::Value root = Parsed(good);
-      root["ret"] = "yes";
-      return Compact(root);
-    }
+    case kRetText: return Replaced(good, "yes", true);
     case kNotObject: return "[" + text + "]";
-    case kTexts: return Rewritten(good, "x");
-    case kArrays: return Rewritten(good, Parsed("[[]]"));
+    case kTexts: return Replaced(good, "x");
+    case kArrays: return Replaced(good, Parsed("[[]]"));
     case kTwice: {  // every member first with a value no reader takes
       std::string first;
       for (const std::string& name : Parsed(good).getMemberNames()) first += "\"" + name + "\":[[]],";
@@ -82,7 +68,7 @@ std::string Hostile(Kind kind, const std::string& good) {
 // What a method does with each kind, in the order of Kind:
 //   f  false, outputs untouched   g  the result and outputs of the good reply
 //   t  true, outputs read         n  false, outputs read
-//   x  throws a Json::Exception   b  throws std::invalid_argument   a  ends the process by design
+//   x  throws a Json::Exception   a  ends the process by design
 struct Method {
   std::string name, member, good;
   std::function<Observed()> call;
@@ -102,8 +88,6 @@ const Method kMethods[] = {
     Of<Env>("Number", "GetRemoteContentActivityByTVSourceAndTSTVMode", R"({"ret":true,"activityID":4})", "fgfgxxxxxg",
             [](Env& p, auto& a) { return p.GetRemoteContentActivityByTVSourceAndTVMode(1, 2, 3, a); },
             static_cast<eRemoteContentActivity>(-9)),
-    Of<Mso>("Record", "GetFCRemoteChannelByProgramSourceID", R"({"ret":true,"str_sid":"7"})", "fgftxxxtxg",
-            [](Mso& p, auto& c) { return p.GetFCRemoteChannelByProgramSourceID(kAct, "p", c); }, FCRemoteChannel()),
     Of<Mso>("Programme", "GetFCRemoteProgramByProgramSourceID", R"({"ret":true,"title":"T","duration":5})",
             "fgftxxxaag", [](Mso& p, auto& o) { return p.GetFCRemoteProgramByProgramSourceID(kAct, "p", 1, o); },
             FCRemoteProgram()),
@@ -119,9 +103,6 @@ const Method kMethods[] = {
             FCMBRNetworkChannelTable()),
     Of<Rf>("SplitNumber", "GetNavigationMode", R"({"ret":true,"navigation mode":1})", "fgfgxxxxxg",
            [](Rf& p, auto& m) { return p.GetNavigationMode(m); }, static_cast<Rf::ENavigationMode>(9)),
-    Of<Rf>("SplitIdList", "GetRFNetworkChannelMapByGenre", R"({"ret":true,"service list":[{"TCServiceId":"5"}]})",
-           "fgftxxxtxg", [](Rf& p, auto& t) { return p.GetRFNetworkChannelMapByGenre("news", t); },
-           FCRFNetworkChannelTable()),
     Of<Vc>("SplitRecordMap", "GetProgramList", R"({"ret":true,"virtual_program_map":[{"key":1,"title":"a"}]})",
            "fgftxxxttg", [](Vc& p, auto& m) { return p.GetProgramList(7, 100, 3600, m); },
            std::map<unsigned int, FCVirtualProgramData>()),
@@ -129,18 +110,9 @@ const Method kMethods[] = {
            [](Vc& p, auto& out) { return p.GetPresentProgram("{}", out); }, kDash),
 };
 
-struct Row {
-  const Method* method;
-  Kind kind;
-};
-std::vector<Row> Rows() {
-  std::vector<Row> rows;
-  for (const Method& method : kMethods)
-    for (int kind = 0; kind < kKinds; ++kind) rows.push_back({&method, Kind(kind)});
-  return rows;
-}
+using Row = std::tuple<size_t, int>;  // a method of kMethods, a Kind
 std::string RowName(const ::testing::TestParamInfo<Row>& info) {
-  return info.param.method->name + "_" + kKindNames[info.param.kind];
+  return kMethods[std::get<0>(info.param)].name + "_" + kKindNames[std::get<1>(info.param)];
 }
 
 class HostileReply : public ::testing::TestWithParam<Row> {
@@ -150,8 +122,8 @@ class HostileReply : public ::testing::TestWithParam<Row> {
 };
 
 TEST_P(HostileReply, EndsAsPinned) {
-  const Method& m = *GetParam().method;
-  const Kind kind = GetParam().kind;
+  const Method& m = kMethods[std::get<0>(GetParam())];
+  const Kind kind = Kind(std::get<1>(GetParam()));
   TestService::Reply(m.member, m.good);
   const Observed good = m.call();
   TestService::Reply(m.member, Hostile(kind, m.good));
@@ -159,13 +131,11 @@ TEST_P(HostileReply, EndsAsPinned) {
   switch (m.outcomes.at(kind)) {
     case 'a': EXPECT_DEATH(m.call(), ""); break;
     case 'x': EXPECT_THROW(m.call(), Json::Exception); break;
-    case 'b': EXPECT_THROW(m.call(), std::invalid_argument); break;
-    default: {
+    default:
       const Observed seen = m.call();
       const char outcome = m.outcomes.at(kind);
       EXPECT_EQ(seen.result, outcome == 'g' ? good.result : outcome == 't');
       EXPECT_EQ(seen.after, outcome == 'f' ? seen.before : outcome == 'g' ? good.after : seen.after);
-    }
   }
   if (kind == kOver) {  // the bus has dropped the service for sending too much
     TestService::Stop();
@@ -174,6 +144,8 @@ TEST_P(HostileReply, EndsAsPinned) {
     TestService::PadPayloads(0);
   }
 }
-INSTANTIATE_TEST_SUITE_P(EveryReaderShape, HostileReply, ::testing::ValuesIn(Rows()), RowName);
+INSTANTIATE_TEST_SUITE_P(EveryReaderShape, HostileReply,
+                         ::testing::Combine(::testing::Range<size_t>(0, std::size(kMethods)), ::testing::Range(0, int(kKinds))),
+                         RowName);
 
 }  // namespace
