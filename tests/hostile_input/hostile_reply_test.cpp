@@ -129,7 +129,7 @@ TEST_P(HostileReply, EndsAsPinned) {
   TestService::Reply(m.member, Hostile(kind, m.good));
   if (kind == kOver || kind == kUnder) TestService::PadPayloads(kind == kOver ? kBusLimit + 1 : kBusLimit - 4096);
   switch (m.outcomes.at(kind)) {
-    case 'a': EXPECT_DEATH(m.call(), ""); break;
+    case 'a': EXPECT_DEATH(m.call(), EndedByDesign()); break;
     case 'x': EXPECT_THROW(m.call(), Json::Exception); break;
     default:
       const Observed seen = m.call();

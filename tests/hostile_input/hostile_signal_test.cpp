@@ -59,7 +59,7 @@ TEST_P(HostileSignal, ReachesTheCallbackOrEndsAsPinned) {
   TestService::PadPayloads(row.padTo);
   TestService::Emit("Event", row.first, row.payload, FIIPCConnection::GetInstance()->GetConnectionId());
   if (row.expected == "abort") {
-    EXPECT_DEATH(DispatchUntil([] { return false; }), "");
+    EXPECT_DEATH(DispatchUntil([] { return false; }), EndedByDesign());
     TestService::PadPayloads(0);
     return;
   }
