@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "child_process.h"
 
@@ -11,13 +12,15 @@ namespace zunde::testing {
 namespace {
 
 pid_t daemonPid = -1;
+const char* configPath = ZUNDE_TEST_BUS_CONFIG;
 
 }  // namespace
 
 void TestBus::Start() {
-  const StartedChild daemon = StartChild([](int) {
-    execlp("dbus-daemon", "dbus-daemon", "--config-file=" ZUNDE_TEST_BUS_CONFIG, "--nofork", "--nopidfile",
-           "--print-address", static_cast<char*>(nullptr));
+  const std::string configOption = std::string("--config-file=") + configPath;
+  const StartedChild daemon = StartChild([&configOption](int) {
+    execlp("dbus-daemon", "dbus-daemon", configOption.c_str(), "--nofork", "--nopidfile", "--print-address",
+           static_cast<char*>(nullptr));
   });
   daemonPid = daemon.pid;
   if (daemon.firstLine.empty()) {
@@ -26,6 +29,8 @@ void TestBus::Start() {
   }
   setenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine.c_str(), 1);
 }
+
+void TestBus::UseConfig(const char* path) { configPath = path; }
 
 void TestBus::Stop() { StopChild(daemonPid); }
 

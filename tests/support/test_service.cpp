@@ -109,4 +109,6 @@ void TestService::Emit(const std::string& member, const std::string& first, cons
                DBUS_TYPE_BYTE, &bytes, length, DBUS_TYPE_STRING, &to, DBUS_TYPE_INVALID));
 }
 
+void TestService::PadPayloads(uint32_t size) { Done(Control("Pad", DBUS_TYPE_UINT32, &size, DBUS_TYPE_INVALID)); }
+
 }  // namespace zunde::testing

@@ -39,6 +39,9 @@ class TestService {
   // Emits a signal from the service; an empty destination broadcasts.
   static void Emit(const std::string& member, const std::string& first, const std::string& payload,
                    const std::string& destination = "");
+  // Pads the payloads of the replies and signals that follow with spaces to
+  // at least `size` bytes; 0 stops padding.
+  static void PadPayloads(uint32_t size);
 };
 
 // A test that has the service running.

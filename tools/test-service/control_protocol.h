@@ -16,6 +16,10 @@
 //   Emit(s member, s first, i length, ay payload, s destination)
 //     Emits signal `member` ("Event", "Data", ...) on the signal path and
 //     interface with these arguments; an empty destination broadcasts.
+//   Pad(u size)
+//     From now on, pads the payloads of replies and signals with spaces to at
+//     least `size` bytes (their length arguments grow with them), so that a
+//     test can reach the bus's message size limit without sending that much.
 // Unscripted members are answered with the error below.
 #ifndef ZUNDE_TEST_SERVICE_CONTROL_PROTOCOL_H
 #define ZUNDE_TEST_SERVICE_CONTROL_PROTOCOL_H

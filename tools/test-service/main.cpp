@@ -124,12 +124,13 @@ class TestService {
 
   void SendPayloadReply(DBusMessage* message, const Answer& answer) {
     DBusMessage* reply = dbus_message_new_method_return(message);
-    const int32_t length = answer.length == -1 ? static_cast<int32_t>(answer.payload.size()) : answer.length;
+    const std::vector<unsigned char> payload = Padded(answer.payload);
+    const int32_t length = answer.length == -1 ? static_cast<int32_t>(payload.size()) : answer.length;
     DBusMessageIter args;
     dbus_message_iter_init_append(reply, &args);
     dbus_message_iter_append_basic(&args, DBUS_TYPE_INT32, &answer.status);
     dbus_message_iter_append_basic(&args, DBUS_TYPE_INT32, &length);
-    AppendBytes(&args, answer.payload);
+    AppendBytes(&args, payload);
     SendReply(reply);
   }
 
@@ -138,6 +139,7 @@ class TestService {
     if (std::strcmp(member, "Script") == 0) return ControlScript(message);
     if (std::strcmp(member, "TakeCalls") == 0) return ControlTakeCalls(message);
     if (std::strcmp(member, "Emit") == 0) return ControlEmit(message);
+    if (std::strcmp(member, "Pad") == 0) return ControlPad(message);
     SendError(message, kBadControlError, "unknown control method");
   }
 
@@ -195,15 +197,36 @@ class TestService {
     }
     DBusMessage* signal = dbus_message_new_signal(zunde::bus::kSignalPath, zunde::bus::kSignalInterface, member.c_str());
     if (!destination.empty()) dbus_message_set_destination(signal, destination.c_str());
+    if (payload.size() < padTo_) {
+      payload = Padded(payload);
+      length = static_cast<int32_t>(payload.size());
+    }
     const char* text = first.c_str();
     DBusMessageIter signalArgs;
     dbus_message_iter_init_append(signal, &signalArgs);
     dbus_message_iter_append_basic(&signalArgs, DBUS_TYPE_STRING, &text);
     dbus_message_iter_append_basic(&signalArgs, DBUS_TYPE_INT32, &length);
     AppendBytes(&signalArgs, payload);
+    // Answered first: a signal too large for the bus ends this connection.
+    SendReply(dbus_message_new_method_return(message));
     dbus_connection_send(connection_, signal, nullptr);
     dbus_message_unref(signal);
+  }
+
+  void ControlPad(DBusMessage* message) {
+    ArgumentReader args(message);
+    uint32_t size = 0;
+    if (!args.UInt32(size)) {
+      SendError(message, kBadControlError, "Pad wants (u size)");
+      return;
+    }
+    padTo_ = size;
     SendReply(dbus_message_new_method_return(message));
+  }
+
+  std::vector<unsigned char> Padded(std::vector<unsigned char> payload) const {
+    if (payload.size() < padTo_) payload.resize(padTo_, ' ');
+    return payload;
   }
 
   void SendError(DBusMessage* message, const char* name, const char* text) {
@@ -218,6 +241,7 @@ class TestService {
 
   DBusConnection* connection_;
   ServiceScript script_;
+  uint32_t padTo_ = 0;
 };
 
 DBusHandlerResult Filter(DBusConnection*, DBusMessage* message, void* service) {
