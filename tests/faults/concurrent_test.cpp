@@ -1,6 +1,7 @@
 // Threads share the one connection: each gets exactly its own replies, and a
 // slow call holds up no other thread's call.
 #include <chrono>
+#include <cstdlib>
 #include <future>
 #include <thread>
 #include <vector>
@@ -34,6 +35,7 @@ class Concurrent : public FaultTest {
 };
 
 TEST_F(Concurrent, EightThreadsOnTheSharedConnectionEachGetTheirOwnReplies) {
+  setenv("ZUNDE_SLOW_CALL_MS", "60000", 1);  // every call is watched too
   std::vector<std::future<int>> wrongReplies;
   for (int t = 0; t < kThreads; ++t) {
     wrongReplies.push_back(std::async(std::launch::async, [this, t] {
@@ -45,6 +47,7 @@ TEST_F(Concurrent, EightThreadsOnTheSharedConnectionEachGetTheirOwnReplies) {
     }));
   }
   for (auto& wrong : wrongReplies) EXPECT_EQ(wrong.get(), 0);
+  unsetenv("ZUNDE_SLOW_CALL_MS");
 }
 
 // libdbus writes a second thread's call only once the thread waiting for its

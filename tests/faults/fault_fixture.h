@@ -3,6 +3,7 @@
 #ifndef ZUNDE_TESTS_FAULT_FIXTURE_H
 #define ZUNDE_TESTS_FAULT_FIXTURE_H
 
+#include <dlog.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -35,7 +36,11 @@ inline bool CallForUser() {
 inline void ExpectTransportFailure(const std::string& cause) {
   EXPECT_TRUE(LogCapture::Find("DBG_LV[0]dbus_connection_send_with_reply_and_block: " + cause + "\n"))
       << ::testing::PrintToString(LogCapture::Lines());
-  EXPECT_TRUE(LogCapture::Find("DBG_LV[0][FCRemoteContentOnTV_Proxy::GetPersonalUserID] fail to communicate using d-bus\n"));
+  LogRecord line;
+  ASSERT_TRUE(LogCapture::Find(
+      "DBG_LV[0][FCRemoteContentOnTV_Proxy::GetPersonalUserID] fail to communicate using d-bus\n", &line));
+  EXPECT_EQ(line.logId, LOG_ID_SYSTEM);
+  EXPECT_EQ(line.priority, DLOG_WARN);
 }
 
 }  // namespace zunde::testing

@@ -304,6 +304,8 @@ int main(int argc, char** argv) {
   dbus_connection_add_filter(connection, Filter, &service, nullptr);
   std::printf("%s\n", kReadyLine);
   std::fflush(stdout);
-  while (dbus_connection_read_write_dispatch(connection, service.MsUntilNextAnswer())) service.AnswerDelayedCallsDue();
+  while (dbus_connection_read_write_dispatch(connection, service.MsUntilNextAnswer())) {
+    service.AnswerDelayedCallsDue();
+  }
   return 0;
 }
