@@ -69,6 +69,8 @@ void TestService::Reply(const std::string& member, const std::string& payload, i
 }
 void TestService::ReplyWithoutArguments(const std::string& member) { Script(member, "no-arguments"); }
 void TestService::ReplyWithError(const std::string& member) { Script(member, "error"); }
+void TestService::Echo(const std::string& member, uint32_t delayMs) { Script(member, "echo", 0, -1, "", delayMs); }
+void TestService::ExitOn(const std::string& member, uint32_t delayMs) { Script(member, "exit", 0, -1, "", delayMs); }
 
 std::vector<ReceivedCall> TestService::TakeCalls() {
   std::vector<ReceivedCall> calls;

@@ -31,6 +31,10 @@ class TestService {
                     int32_t length = -1, uint32_t delayMs = 0);
   static void ReplyWithoutArguments(const std::string& member);
   static void ReplyWithError(const std::string& member);
+  // Answers `member` with status 0 and the call's own payload.
+  static void Echo(const std::string& member, uint32_t delayMs = 0);
+  // Ends the service, without an answer, `delayMs` after `member` is called.
+  static void ExitOn(const std::string& member, uint32_t delayMs = 0);
 
   static std::vector<ReceivedCall> TakeCalls();
   // The one call received since the last TakeCalls; fails the test otherwise.

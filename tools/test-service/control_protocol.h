@@ -10,6 +10,8 @@
 //       "no-arguments"  a method return without arguments
 //       "error"         a D-Bus error reply
 //       "exit"          end the service without answering
+//       "echo"          as "reply", with the call's own payload
+//     Calls that come in while an answer is delayed are answered meanwhile.
 //   TakeCalls() -> a(siay)
 //     The calls received since the last TakeCalls, in order: the member name
 //     (first argument), the length argument and the exact payload bytes.

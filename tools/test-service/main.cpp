@@ -4,8 +4,9 @@
 // name, records every call and answers as a test scripts it; see
 // control_protocol.h. Malformed control calls get an error reply.
 #include <dbus/dbus.h>
-#include <unistd.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -76,6 +77,30 @@ class TestService {
 
   ServiceScript& Script() { return script_; }
 
+  // How long the main loop may wait for traffic before a delayed answer is
+  // due: -1 when none is waiting.
+  int MsUntilNextAnswer() const {
+    if (delayed_.empty()) return -1;
+    const auto due = std::min_element(delayed_.begin(), delayed_.end(), [](const Delayed& a, const Delayed& b) {
+                       return a.due < b.due;
+                     })->due;
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(due - Clock::now()).count();
+    return static_cast<int>(std::max<long long>(left, 0));
+  }
+
+  void AnswerDelayedCallsDue() {
+    const auto now = Clock::now();
+    for (auto it = delayed_.begin(); it != delayed_.end();) {
+      if (it->due > now) {
+        ++it;
+        continue;
+      }
+      Act(it->call, it->answer);
+      dbus_message_unref(it->call);
+      it = delayed_.erase(it);
+    }
+  }
+
   DBusHandlerResult Handle(DBusMessage* message) {
     if (dbus_message_is_method_call(message, zunde::bus::kCallListener, zunde::bus::kCallMember)) {
       AnswerCall(message);
@@ -98,15 +123,22 @@ class TestService {
       return;
     }
     const std::string member = call.member;
+    const std::vector<unsigned char> payload = call.payload;
     script_.Record(std::move(call));
 
-    const auto answer = script_.AnswerFor(member);
+    auto answer = script_.AnswerFor(member);
     if (!answer) {
       SendError(message, kUnscriptedError, ("no script for " + member).c_str());
       return;
     }
-    if (answer->delayMs > 0) usleep(answer->delayMs * 1000u);
-    switch (answer->action) {
+    if (answer->action == Action::Echo) answer->payload = payload;
+    if (answer->delayMs == 0) return Act(message, *answer);
+    // A delayed answer waits in a list, so that other calls are answered meanwhile.
+    delayed_.push_back({Clock::now() + std::chrono::milliseconds(answer->delayMs), dbus_message_ref(message), *answer});
+  }
+
+  void Act(DBusMessage* message, const Answer& answer) {
+    switch (answer.action) {
       case Action::Exit:
         dbus_connection_flush(connection_);
         std::_Exit(0);
@@ -117,7 +149,8 @@ class TestService {
         SendReply(dbus_message_new_method_return(message));
         return;
       case Action::Reply:
-        SendPayloadReply(message, *answer);
+      case Action::Echo:
+        SendPayloadReply(message, answer);
         return;
     }
   }
@@ -239,9 +272,17 @@ class TestService {
     dbus_message_unref(reply);
   }
 
+  using Clock = std::chrono::steady_clock;
+  struct Delayed {
+    Clock::time_point due;
+    DBusMessage* call;
+    Answer answer;
+  };
+
   DBusConnection* connection_;
   ServiceScript script_;
   uint32_t padTo_ = 0;
+  std::vector<Delayed> delayed_;
 };
 
 DBusHandlerResult Filter(DBusConnection*, DBusMessage* message, void* service) {
@@ -287,7 +328,8 @@ int main(int argc, char** argv) {
   dbus_connection_add_filter(connection, Filter, &service, nullptr);
   std::printf("%s\n", kReadyLine);
   std::fflush(stdout);
-  while (dbus_connection_read_write_dispatch(connection, -1)) {
+  while (dbus_connection_read_write_dispatch(connection, service.MsUntilNextAnswer())) {
+    service.AnswerDelayedCallsDue();
   }
   return 0;
 }

@@ -9,6 +9,7 @@ std::optional<Action> ParseAction(const std::string& text) {
   if (text == "no-arguments") return Action::NoArguments;
   if (text == "error") return Action::Error;
   if (text == "exit") return Action::Exit;
+  if (text == "echo") return Action::Echo;
   return std::nullopt;
 }
 

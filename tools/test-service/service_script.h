@@ -10,7 +10,7 @@
 
 namespace zunde::test_service {
 
-enum class Action { Reply, NoArguments, Error, Exit };
+enum class Action { Reply, NoArguments, Error, Exit, Echo };
 
 struct Answer {
   Action action = Action::Reply;
