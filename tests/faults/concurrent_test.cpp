@@ -60,7 +60,12 @@ TEST_F(Concurrent, ASlowCallHoldsUpNoOtherThreadsCallOnceTheConnectionHasTraffic
   std::this_thread::sleep_for(std::chrono::milliseconds(300));
   auto fast = std::async(std::launch::async, [this] { return Echoed(api_, "fast"); });
   const std::string library = FIIPCConnection::GetInstance()->GetConnectionId();
-  for (int i = 0; i < 40 && fast.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready; ++i)
+  // Each message wakes the waiting thread once, and the fast call's thread
+  // must win the race for the connection then: traffic in quick succession,
+  // for as long as the slow call waits at most.
+  const auto giveUp = std::chrono::steady_clock::now() + std::chrono::milliseconds(3400);
+  while (fast.wait_for(std::chrono::milliseconds(2)) != std::future_status::ready &&
+         std::chrono::steady_clock::now() < giveUp)
     TestService::Emit("Event", "7", "", library);
   EXPECT_EQ(fast.wait_for(std::chrono::seconds(0)), std::future_status::ready);
   EXPECT_EQ(slow.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
