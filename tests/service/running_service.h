@@ -17,10 +17,6 @@ class RunningService {
   static void Kill();
 };
 
-// The answer text of a request sent as it stands by another caller: a
-// connection of its own, as another application would have.
-std::string Raw(const char* member, const std::string& request);
-
 }  // namespace zunde::testing
 
 #endif
