@@ -57,7 +57,8 @@ std::string Write(const Json::Value& reply) { return Json::StyledWriter().write(
 
 }  // namespace
 
-Dispatcher::Dispatcher(Store& store, const Catalogue& catalogue) : store_(store), catalogue_(catalogue) {
+Dispatcher::Dispatcher(Store& store, const Catalogue& catalogue, const StorageLimits& limits)
+    : store_(store), catalogue_(catalogue), limits_(limits) {
   for (const MemberTable* table : {&EntryMembers(), &EnvironmentMembers(), &SetTopBoxMembers(), &OperatorMembers(),
                                    &MatchFinderMembers(), &BroadcastMembers(), &VirtualChannelMembers()}) {
     for (const Member& member : *table) members_[member.name] = &member;
@@ -65,7 +66,7 @@ Dispatcher::Dispatcher(Store& store, const Catalogue& catalogue) : store_(store)
 }
 
 void Dispatcher::Run(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events) {
-  Request request{body, store_, runtime_, events, catalogue_};
+  Request request{body, store_, runtime_, events, catalogue_, limits_};
   if (!member.changesState) {
     member.handler(request, reply);
     return;

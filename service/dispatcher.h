@@ -12,7 +12,7 @@ namespace zunde::service {
 
 class Dispatcher {
  public:
-  Dispatcher(Store& store, const Catalogue& catalogue);
+  Dispatcher(Store& store, const Catalogue& catalogue, const StorageLimits& limits = {});
 
   // The answer text for `payload` sent to `member`; always a JSON object
   // with "ret", and "error" when the request was refused. `events` receives
@@ -26,6 +26,7 @@ class Dispatcher {
 
   Store& store_;
   const Catalogue& catalogue_;
+  StorageLimits limits_;
   RuntimeState runtime_;
   std::map<std::string, const Member*> members_;
 };

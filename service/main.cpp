@@ -69,12 +69,17 @@ int Serve(const Options& options) {
   if (!catalogue) return 1;
   std::unique_ptr<Store> store;
   try {
-    store = std::make_unique<Store>(options.dataDir + "/zunde-service.db");
+    store = std::make_unique<Store>(options.dataDir + "/zunde-service.db",
+                                    StoreOptions{options.readOnly, options.maxStorePages});
   } catch (const StoreError& failed) {
     std::fprintf(stderr, "zunde-service: %s\n", failed.what());
     return 1;
   }
-  Dispatcher dispatcher(*store, *catalogue);
+  if (!store->ReadOnlyReason().empty()) {
+    std::fprintf(stderr, "zunde-service: the store is read-only (%s): changes will be refused\n",
+                 store->ReadOnlyReason().c_str());
+  }
+  Dispatcher dispatcher(*store, *catalogue, options.limits);
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   int status = 0;
   {

@@ -14,6 +14,7 @@
 
 #include "catalogue.h"
 #include "events.h"
+#include "storage_limits.h"
 #include "store.h"
 
 namespace zunde::service {
@@ -37,6 +38,7 @@ struct Request {
   RuntimeState& runtime;
   std::vector<Event>& events;  // sent once the change is committed
   const Catalogue& catalogue;
+  const StorageLimits& limits;
 };
 
 // The request asks for something that cannot be: the answer is "ret" false

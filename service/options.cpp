@@ -9,6 +9,8 @@ namespace {
 
 const char* const kUsage =
     "Usage: zunde-service [--data-dir DIR] [--slow-reply-ms N] [--catalogue FILE] [--lineup-size N]\n"
+    "                     [--kpi-log-limit N] [--program-map-limit N] [--channel-map-limit N]\n"
+    "                     [--read-only] [--max-store-pages N]\n"
     "       zunde-service [--lineup-size N] --write-default-catalogue FILE\n"
     "Answers the zunde-provider library on the bus that DBUS_SYSTEM_BUS_ADDRESS names\n"
     "(else the system bus), keeping its state in DIR/zunde-service.db.\n"
@@ -18,6 +20,15 @@ const char* const kUsage =
     "  --catalogue FILE    the channels and guide to offer (default: DIR/catalogue.json when\n"
     "                      there, else the built-in set)\n"
     "  --lineup-size N     channels in the built-in set (default 60, at most 100000)\n"
+    "  --kpi-log-limit N   usage events kept, the oldest going first (default 1000)\n"
+    "  --program-map-limit N  channel ids whose programme map is kept, the least\n"
+    "                      recently set going first (default 10000)\n"
+    "  --channel-map-limit N  channels one activity's map may hold; more are refused\n"
+    "                      (default 100000)\n"
+    "  --read-only         open the store read-only: reads are answered, changes refused\n"
+    "                      (a store that cannot be written is opened so anyway)\n"
+    "  --max-store-pages N let the store grow to N pages of 4 KiB at most; a change that\n"
+    "                      needs more is refused as on a full disk (default: no cap)\n"
     "  --write-default-catalogue FILE  write the built-in set as a catalogue file and stop\n"
     "  --help, --version\n";
 
@@ -27,12 +38,39 @@ Options Stop(Options options, int code) {
   return options;
 }
 
+// The options that take a number, and the numbers they allow.
+struct NumberOption {
+  const char* name;
+  int* (*field)(Options&);
+  long low;
+  long high;
+};
+
+const NumberOption kNumberOptions[] = {
+    {"--slow-reply-ms", [](Options& o) { return &o.slowReplyMs; }, 0, 600000},
+    {"--lineup-size", [](Options& o) { return &o.lineupSize; }, 1, 100000},
+    {"--kpi-log-limit", [](Options& o) { return &o.limits.kpiLog; }, 1, 100000000},
+    {"--program-map-limit", [](Options& o) { return &o.limits.programMaps; }, 1, 100000000},
+    {"--channel-map-limit", [](Options& o) { return &o.limits.channelMap; }, 1, 100000000},
+    {"--max-store-pages", [](Options& o) { return &o.maxStorePages; }, 1, 2147483647},
+};
+
 bool ParseNumber(const char* text, int& out, long low, long high) {
   char* end = nullptr;
   const long value = std::strtol(text, &end, 10);
   if (end == text || *end != '\0' || value < low || value > high) return false;
   out = static_cast<int>(value);
   return true;
+}
+
+// True when argv[i] is a number option and argv[i + 1] a number it allows.
+bool ParseNumberOption(Options& options, int argc, char** argv, int i) {
+  for (const NumberOption& option : kNumberOptions) {
+    if (std::strcmp(argv[i], option.name) == 0) {
+      return i + 1 < argc && ParseNumber(argv[i + 1], *option.field(options), option.low, option.high);
+    }
+  }
+  return false;
 }
 
 }  // namespace
@@ -63,11 +101,10 @@ Options ParseOptions(int argc, char** argv) {
     }
     if (std::strcmp(arg, "--data-dir") == 0 && hasValue) {
       options.dataDir = argv[++i];
-    } else if (std::strcmp(arg, "--slow-reply-ms") == 0 && hasValue && ParseNumber(argv[i + 1], options.slowReplyMs, 0, 600000)) {
+    } else if (ParseNumberOption(options, argc, argv, i)) {
       ++i;
-    } else if (std::strcmp(arg, "--lineup-size") == 0 && hasValue &&
-               ParseNumber(argv[i + 1], options.lineupSize, 1, 100000)) {
-      ++i;
+    } else if (std::strcmp(arg, "--read-only") == 0) {
+      options.readOnly = true;
     } else if (std::strcmp(arg, "--catalogue") == 0 && hasValue) {
       options.catalogue = argv[++i];
     } else if (std::strcmp(arg, "--write-default-catalogue") == 0 && hasValue) {

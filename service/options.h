@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "storage_limits.h"
+
 namespace zunde::service {
 
 struct Options {
@@ -12,6 +14,9 @@ struct Options {
   std::string catalogue;    // the catalogue file; "" = DIR/catalogue.json if there, else the default set
   std::string writeDefaultCatalogue;  // write the default set here and stop
   int lineupSize = 60;      // channels in the default set
+  StorageLimits limits;     // how much of each growing table is kept
+  bool readOnly = false;    // open the store read-only: changes are refused
+  int maxStorePages = 0;    // cap on the store's pages; 0 = none
   bool exitNow = false;     // --help or --version was answered, or the line was wrong
   int exitCode = 0;
 };

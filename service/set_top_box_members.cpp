@@ -67,6 +67,13 @@ void ReplyChannels(const ChannelList& channels, Json::Value& reply) {
   Succeed(reply);
 }
 
+// Refuses a map that would hold more channels than the service keeps.
+void CheckMapSize(Request& request, const ChannelList& channels) {
+  if (channels.size() > static_cast<size_t>(request.limits.channelMap)) {
+    throw BadRequest("a channel map holds at most " + std::to_string(request.limits.channelMap) + " channels");
+  }
+}
+
 // --- activities ---
 
 void Allocate(Request& request, Json::Value& reply) {
@@ -150,6 +157,7 @@ void SetMap(Request& request, Json::Value& reply) {
   SetTopBox box = LoadSetTopBox(request.store, activity);
   box.channels = table.GetNetworkChannelList();
   for (FCMBRNetworkChannel& channel : box.channels) channel.SetActivityID(activity);
+  CheckMapSize(request, box.channels);
   SaveSetTopBox(request.store, activity, box);
   Raise(request, kEventChannelMapChanged, activity, static_cast<int32_t>(box.channels.size()));
   Succeed(reply);
@@ -281,6 +289,7 @@ void AddChannel(Request& request, Json::Value& reply) {
   }
   channel.SetActivityID(activity);
   box.channels.push_back(channel);
+  CheckMapSize(request, box.channels);
   SaveSetTopBox(request.store, activity, box);
   Raise(request, kEventChannelMapChanged, activity, static_cast<int32_t>(box.channels.size()));
   Succeed(reply);
@@ -343,7 +352,7 @@ void SetPrograms(Request& request, Json::Value& reply) {
   FCMarshal::JsonToChannelID(request.body, channelId);
   FCMBRNetworkProgramTable programs;
   FCMarshal::JsonToMBRProgramTable(request.body, programs);
-  SavePrograms(request.store, channelId, programs);
+  SavePrograms(request.store, channelId, programs, request.limits.programMaps);
   Raise(request, kEventProgramMapChanged, static_cast<int32_t>(programs.GetNetworkProgramMap().size()), 0);
   Succeed(reply);
 }

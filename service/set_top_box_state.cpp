@@ -57,10 +57,11 @@ FCMBRNetworkProgramTable LoadPrograms(const Store& store, const std::string& cha
   return programs;
 }
 
-void SavePrograms(Store& store, const std::string& channelId, FCMBRNetworkProgramTable& programs) {
+void SavePrograms(Store& store, const std::string& channelId, FCMBRNetworkProgramTable& programs, int keep) {
   Json::Value doc(Json::objectValue);
   FCMarshal::MBRProgramTableToJson(programs, doc);
   store.Put(kProgramPrefix + channelId, doc);
+  store.Trim(kProgramPrefix, keep);
 }
 
 void ClearPrograms(Store& store) { store.EraseAll(kProgramPrefix); }

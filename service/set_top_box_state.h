@@ -33,7 +33,8 @@ void EraseSetTopBox(Store& store, int activity);
 int ActivityOfSource(const Store& store, int source);
 
 FCMBRNetworkProgramTable LoadPrograms(const Store& store, const std::string& channelId);
-void SavePrograms(Store& store, const std::string& channelId, FCMBRNetworkProgramTable& programs);
+// Keeps the maps of the last `keep` channel ids set; older ones go.
+void SavePrograms(Store& store, const std::string& channelId, FCMBRNetworkProgramTable& programs, int keep);
 void ClearPrograms(Store& store);
 
 }  // namespace zunde::service

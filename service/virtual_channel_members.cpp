@@ -16,7 +16,6 @@ namespace {
 using T = JsonType;
 
 const char kKpiKey[] = "vc/kpi";
-const Json::ArrayIndex kKpiKept = 1000;
 const int kPlaylistItems = 3;
 
 std::string OnDemandKey(unsigned long long id) { return "vc/on demand/" + std::to_string(id); }
@@ -227,7 +226,7 @@ void ServiceIdFromOnTv(Request& request, Json::Value& reply) {
   throw BadRequest("no virtual channel for \"" + provider + "\" and \"" + service + "\"");
 }
 
-// The last thousand events are kept, oldest first.
+// Only the newest events are kept (--kpi-log-limit).
 void LogKpi(Request& request, Json::Value& reply) {
   FCVirtualChannelsAPI::EKPIType type;
   std::string name;
@@ -237,11 +236,7 @@ void LogKpi(Request& request, Json::Value& reply) {
   Json::Value event(Json::objectValue);
   FCMarshal::KPIInfoToJson(type, name, category, desc, event);
   event["time"] = Json::Int64(std::time(nullptr));
-  Json::Value log = request.store.Get(kKpiKey);
-  Json::Value kept(Json::arrayValue);
-  for (Json::ArrayIndex i = log.size() >= kKpiKept ? log.size() - kKpiKept + 1 : 0; i < log.size(); ++i) kept.append(log[i]);
-  kept.append(event);
-  request.store.Put(kKpiKey, kept);
+  request.store.Append(kKpiKey, event, request.limits.kpiLog);
   Succeed(reply);
 }
 

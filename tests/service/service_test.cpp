@@ -2,6 +2,7 @@
 #include <dbus/dbus.h>
 #include <glib.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 #include <stdlib.h>
 
 #include <atomic>
@@ -98,6 +99,22 @@ class Service : public ::testing::Test {
   void TearDown() override {
     EXPECT_EQ(RunningService::Stop(), 0);
     std::system(("rm -rf " + dataDir_).c_str());
+  }
+  // Runs `sql` on the store file; the first column of its rows, each after a space.
+  std::string Sql(const char* sql) {
+    sqlite3* db = nullptr;
+    sqlite3_open((dataDir_ + "/zunde-service.db").c_str(), &db);
+    std::string rows;
+    sqlite3_exec(db, sql, [](void* out, int, char** values, char**) {
+      *static_cast<std::string*>(out) += std::string(" ") + values[0];
+      return 0;
+    }, &rows, nullptr);
+    sqlite3_close(db);
+    return rows;
+  }
+  void Restart(const std::vector<std::string>& options) {
+    EXPECT_EQ(RunningService::Stop(), 0);
+    RunningService::Start(dataDir_, 3000, options);
   }
   std::string dataDir_;
 };
@@ -235,6 +252,55 @@ TEST_F(Service, ASlowAnswerDoesNotHoldUpAnotherCaller) {
   EXPECT_FALSE(slowDone);
   slow.join();
   EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(1400));
+}
+
+// --- bounded tables, and a store that cannot be written ---
+
+const std::string kTrue = "{\n   \"ret\" : true\n}\n";
+std::string Refused(const std::string& error) { return "{\n   \"error\" : \"" + error + "\",\n   \"ret\" : false\n}\n"; }
+std::string Kpi(const std::string& name) { return Raw("SendLogKPI", R"({"KPIType": 1, "EventName": ")" + name + "\"}"); }
+std::string Env() {
+  std::string country, language;
+  return std::to_string(env.GetRemoteContentEnv(country, language)) + country + language;
+}
+
+TEST_F(Service, GrowingTablesKeepTheirNewestRowsOrRefuseMore) {
+  Restart({"--kpi-log-limit", "2", "--program-map-limit", "2", "--channel-map-limit", "2"});
+  for (const char* name : {"a", "b", "c"}) EXPECT_EQ(Kpi(name), kTrue);
+  EXPECT_EQ(Sql("SELECT json_extract(value, '$.EventName') FROM log ORDER BY id"), " b c");
+  for (std::string id : {"1", "2", "1", "3"}) EXPECT_EQ(Raw("SetMBRNetworkProgramMap", R"({"channelID": ")" + id + "\"}"), kTrue);
+  EXPECT_EQ(Sql("SELECT key FROM document WHERE key LIKE 'programs/%' ORDER BY key"), " programs/1 programs/3");
+  for (std::string major : {"1", "2", "3"}) {
+    EXPECT_EQ(Raw("AddNewMBRNetworkChannel", R"({"activityID": 0, "m_minor": 0, "m_major": )" + major + "}"),
+              major == "3" ? Refused("a channel map holds at most 2 channels") : kTrue);
+  }
+}
+
+TEST_F(Service, AnOlderStoreKeepsItsUsageLog) {
+  EXPECT_EQ(RunningService::Stop(), 0);
+  std::remove((dataDir_ + "/zunde-service.db").c_str());
+  Sql("CREATE TABLE document (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL); PRAGMA user_version=1;"
+      "INSERT INTO document VALUES ('vc/kpi', '[{\"EventName\": \"x\"}, {\"EventName\": \"y\"}]')");
+  RunningService::Start(dataDir_);
+  EXPECT_EQ(Sql("SELECT json_extract(value, '$.EventName') FROM log ORDER BY id"), " x y");
+}
+
+// A store on a read-only medium: its file opened read-only.
+TEST_F(Service, AReadOnlyStoreAnswersReadsAndRefusesChanges) {
+  ASSERT_TRUE(env.SetRemoteContentEnv("FR", "fr"));
+  Restart({"--read-only"});
+  EXPECT_EQ(Kpi("a"), Refused("storage failed: attempt to write a readonly database"));
+  EXPECT_FALSE(env.SetRemoteContentEnv("DE", "de"));
+  EXPECT_EQ(Env(), "1FRfr");
+}
+
+// A full disk: the store may not grow beyond its pages.
+TEST_F(Service, AFullStoreRefusesTheWholeChangeAndKeepsServing) {
+  Restart({"--max-store-pages", "8"});
+  EXPECT_EQ(Kpi(std::string(100000, 'x')), Refused("storage failed: database or disk is full"));
+  EXPECT_EQ(Sql("SELECT count(*) FROM log"), " 0");
+  EXPECT_TRUE(env.SetRemoteContentEnv("FR", "fr"));
+  EXPECT_EQ(Env(), "1FRfr");
 }
 
 }  // namespace
