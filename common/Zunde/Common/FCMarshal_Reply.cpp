@@ -1,6 +1,11 @@
 #include "FCMarshal.h"
+#include "FCRemoteCall_internal.h"
+
+bool zunde::ParseJsonText(const char* begin, const char* end, Json::Value& root) {
+  Json::Reader reader;
+  return reader.parse(begin, end, root, true);
+}
 
 bool FCMarshal::ParseToJson(std::string& text, Json::Value& root) {
-  Json::Reader reader;
-  return reader.parse(text, root, true);
+  return zunde::ParseJsonText(text.data(), text.data() + text.size(), root);
 }

@@ -10,26 +10,38 @@ namespace zunde {
 namespace {
 
 // The reply's bytes from the read cursor on (the whole reply, as nothing
-// has been popped).
-std::string ReplyText(FCMessageBuffer& reply) {
+// has been popped); an empty reply is an empty range.
+std::pair<const char*, const char*> ReplyBytes(FCMessageBuffer& reply) {
+  static const char kEmpty[] = "";
   const char* bytes = reply.GetAsCStr(0);
-  if (bytes == nullptr) return std::string();
-  return std::string(bytes, reply.GetFullBufferSize() - reply.GetReadOffset());
+  if (bytes == nullptr) return {kEmpty, kEmpty};
+  return {bytes, bytes + (reply.GetFullBufferSize() - reply.GetReadOffset())};
+}
+
+std::string ReplyText(FCMessageBuffer& reply) {
+  const auto bytes = ReplyBytes(reply);
+  return std::string(bytes.first, bytes.second);
 }
 
 }  // namespace
 
-bool TransmitText(const CallLogLines& lines, const LogSite& site, const char* subject, const char* member,
-                  const std::string& request, std::string& reply) {
+bool TransmitBuffer(const CallLogLines& lines, const LogSite& site, const char* subject, const char* member,
+                    const std::string& request, FCMessageBuffer& reply) {
   FIIPCConnection* connection = FIIPCConnection::GetInstance();
   FCMessageBuffer requestBuffer;
-  FCMessageBuffer replyBuffer;
   requestBuffer.PushConcatenated(request.length(), const_cast<char*>(request.data()));
   const SlowCallWatch watch(member);
-  if (connection->Call(std::string(bus::kCallListener), member, requestBuffer, replyBuffer) == -1) {
+  if (connection->Call(std::string(bus::kCallListener), member, requestBuffer, reply) == -1) {
     WriteLogLine(lines.sendFailed, site, subject);
     return false;
   }
+  return true;
+}
+
+bool TransmitText(const CallLogLines& lines, const LogSite& site, const char* subject, const char* member,
+                  const std::string& request, std::string& reply) {
+  FCMessageBuffer replyBuffer;
+  if (!TransmitBuffer(lines, site, subject, member, request, replyBuffer)) return false;
   reply = ReplyText(replyBuffer);
   return true;
 }
@@ -70,8 +82,11 @@ bool RemoteCall::Transmit(const std::string& request, std::string& reply) {
   return TransmitText(lines_, site_, nullptr, member_, request, reply);
 }
 
-bool RemoteCall::Parse(std::string& text, Json::Value& root) {
-  if (FCMarshal::ParseToJson(text, root)) return true;
+bool RemoteCall::Parse(FCMessageBuffer& replyBuffer, Json::Value& root) {
+  // The reply is parsed where it lies: a copy into a string first would be
+  // one more pass over a reply that may hold megabytes.
+  const auto bytes = ReplyBytes(replyBuffer);
+  if (ParseJsonText(bytes.first, bytes.second, root)) return true;
   WriteLogLine(lines_.parseFailed, site_);
   return false;
 }
@@ -83,8 +98,8 @@ bool RemoteCall::Exchange(Json::Value& reply) {
     for (const auto& write : writers_) write(request);
     return transport_(member_, request, reply);
   }
-  std::string replyText;
-  return Transmit(WriteRequest(), replyText) && Parse(replyText, reply);
+  FCMessageBuffer replyBuffer;
+  return TransmitBuffer(lines_, site_, nullptr, member_, WriteRequest(), replyBuffer) && Parse(replyBuffer, reply);
 }
 
 void RemoteCall::ReadOutputs(Json::Value& reply) {
@@ -108,8 +123,8 @@ bool RemoteCall::RunIgnoringRet() {
 
 bool RemoteCall::Send() {
   if (rejected_) return false;
-  std::string replyText;
-  return Transmit(WriteRequest(), replyText);
+  FCMessageBuffer replyBuffer;
+  return TransmitBuffer(lines_, site_, nullptr, member_, WriteRequest(), replyBuffer);
 }
 
 bool RemoteCall::PassThrough(const std::string& request, std::string& reply) {

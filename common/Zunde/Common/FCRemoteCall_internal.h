@@ -32,6 +32,8 @@
 
 #include "FCLog_internal.h"
 
+class FCMessageBuffer;
+
 namespace zunde {
 
 // The lines a proxy family writes around one call; each format names the
@@ -96,7 +98,7 @@ class RemoteCall {
  private:
   std::string WriteRequest() const;
   bool Transmit(const std::string& request, std::string& reply);
-  bool Parse(std::string& text, Json::Value& root);
+  bool Parse(FCMessageBuffer& replyBuffer, Json::Value& root);
   // Sends the request and parses the reply into `reply`; false on failure.
   bool Exchange(Json::Value& reply);
   void ReadOutputs(Json::Value& reply);
@@ -126,8 +128,15 @@ bool CallWithJsonArguments(const CallLogLines& lines, const char* member, const 
 // The "ret" of a reply text; false, with `parseFailed`, when it does not parse.
 bool ParseReturnValue(const LogLine& parseFailed, const std::string& text, LogSite site = LogSite::Here());
 
+// Parses the text in [begin, end) exactly as FCMarshal::ParseToJson parses
+// a string holding it.
+bool ParseJsonText(const char* begin, const char* end, Json::Value& root);
+
 // Sends `request` as it stands to `member` of the service; on success the
-// reply's bytes become `reply`. The transport failure line is written here.
+// reply's bytes are in `reply`. The transport failure line is written here.
+bool TransmitBuffer(const CallLogLines& lines, const LogSite& site, const char* subject, const char* member,
+                    const std::string& request, FCMessageBuffer& reply);
+// As TransmitBuffer, the reply's bytes becoming the text `reply`.
 bool TransmitText(const CallLogLines& lines, const LogSite& site, const char* subject, const char* member,
                   const std::string& request, std::string& reply);
 
