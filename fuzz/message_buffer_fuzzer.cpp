@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::size_t at = in.ConsumeIntegralInRange<std::size_t>(0, model.size());
     std::vector<char> bytes = in.ConsumeBytes<char>(count);
     const bool zeros = bytes.empty();
-    if (zeros) bytes.assign(count, 0);
+    bytes.resize(count);  // the input may run out: zeros after its end
     std::vector<char> out(count + 4);
     const std::size_t left = model.size() - cursor;
     switch (op) {
