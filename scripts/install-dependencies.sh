@@ -9,6 +9,7 @@ packages=(
   libcli11-dev
   dbus-daemon
   googletest libgtest-dev libgmock-dev libbenchmark-dev
+  clang libclang-rt-dev
 )
 
 missing=()
