@@ -1,11 +1,12 @@
 // Sends one request to the service's dispatcher: the input's first line is
-// the member, the rest the payload. Whatever arrives, the service answers
+// the member (or its first byte picks one), the rest the payload. Whatever arrives, the service answers
 // with a JSON object holding "ret" and goes on; it must never end.
 #include <glib.h>
 
 #include <cstdlib>
 #include <ctime>
 #include <string>
+#include <vector>
 
 #include "catalogue.h"
 #include "dispatcher.h"
@@ -27,10 +28,25 @@ Dispatcher& TheDispatcher() {
   return dispatcher;
 }
 
+// Every member the service knows, so that a byte can name one.
+const std::vector<std::string>& MemberNames() {
+  static const std::vector<std::string> names = [] {
+    std::vector<std::string> all;
+    for (const MemberTable* table : {&EntryMembers(), &EnvironmentMembers(), &SetTopBoxMembers(), &OperatorMembers(),
+                                     &MatchFinderMembers(), &BroadcastMembers(), &VirtualChannelMembers()}) {
+      for (const Member& member : *table) all.push_back(member.name);
+    }
+    return all;
+  }();
+  return names;
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const std::string input(reinterpret_cast<const char*>(data), size);
+  std::string input(reinterpret_cast<const char*>(data), size);
+  // A first byte from 0x80 up picks a known member; text names one itself.
+  if (size > 0 && data[0] >= 0x80) input.replace(0, 1, MemberNames()[(data[0] - 0x80) % MemberNames().size()] + "\n");
   const std::size_t end = input.find('\n');
   const std::string member = input.substr(0, end);
   const std::string payload = end == std::string::npos ? "" : input.substr(end + 1);
