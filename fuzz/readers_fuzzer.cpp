@@ -49,7 +49,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   } catch (const ProgrammeRefused&) {
   }
   Json::Value root;
-  if (!F::ParseToJson(text, root)) return 0;
+  try {
+    if (!F::ParseToJson(text, root)) return 0;
+  } catch (const Json::Exception&) {  // nested deeper than jsoncpp's limit
+    return 0;
+  }
   // Remote content environment.
   Read(&F::JsonToCountryAndLang, root), Read(&F::JsonToatoken, root), Read(&F::JsonToactivityID, root);
   Read(static_cast<bool (*)(Json::Value&, ESource&, int&)>(&F::JsonToTVSourceAndTVMode), root);
