@@ -1,6 +1,7 @@
 // Sends one request to the service's dispatcher: the input's first line is
-// the member (or its first byte picks one), the rest the payload. Whatever arrives, the service answers
-// with a JSON object holding "ret" and goes on; it must never end.
+// the member (or its first byte picks one), the rest the payload. Whatever
+// arrives, the service answers with a JSON object holding "ret" and goes on;
+// it must never end.
 #include <glib.h>
 
 #include <cstdlib>
