@@ -10,6 +10,7 @@ packages=(
   abigail-tools
   dbus-daemon
   googletest libgtest-dev libgmock-dev libbenchmark-dev
+  clang libclang-rt-dev
 )
 
 missing=()

@@ -148,15 +148,19 @@ void Present(Request& request, Json::Value& reply) {
   ReplyProgramAt(request, ChannelOf(request, ServiceIdOf(request)), std::time(nullptr), reply);
 }
 
+// Only the keys that place the programme are read, one by one, as the
+// record reads them: the record's own reader ends the process on a value of
+// the wrong type, while here jsoncpp's error refuses the request.
 void Neighbour(Request& request, Json::Value& reply, bool next) {
-  FCRemoteProgram current;
-  FCMarshal::JsonToFCRemoteProgram(request.body, current);
-  const std::string key = ChannelKeyOfProgramId(current.str_program_id);
+  const Json::Value& body = request.body;
+  const std::string programId = body["program id"].asString();
+  const unsigned int start = static_cast<unsigned int>(body["utc start time"].asInt());
+  const int duration = body["duration"].asInt();
+  const std::string key = ChannelKeyOfProgramId(programId);
   if (key.empty() || key.find_first_not_of("0123456789") != std::string::npos) {
-    throw BadRequest("programme id \"" + current.str_program_id + "\" names no service");
+    throw BadRequest("programme id \"" + programId + "\" names no service");
   }
-  const time_t at = next ? static_cast<time_t>(current.utc_starttime) + current.duration
-                         : static_cast<time_t>(current.utc_starttime) - 1;
+  const time_t at = next ? static_cast<time_t>(start) + duration : static_cast<time_t>(start) - 1;
   ReplyProgramAt(request, ChannelOf(request, std::stoull(key)), at, reply);
 }
 

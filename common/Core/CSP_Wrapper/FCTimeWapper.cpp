@@ -42,14 +42,15 @@ int MonthOfDay(unsigned long dayOfYear, bool leapYear, unsigned long* monthStart
 unsigned long DS1371_DateToBinary(tm_struct* time) {
   // A month outside 0..11 (a date-time text may carry one) counts into the
   // years around it, as mktime does, rather than past the month table. For
-  // months within the table this changes nothing.
-  int year = time->tm_year + time->tm_mon / 12;
+  // months within the table this changes nothing. Wide enough for any two
+  // ints a text may carry: the seconds then simply wrap.
+  long long year = static_cast<long long>(time->tm_year) + time->tm_mon / 12;
   int month = time->tm_mon % 12;
   if (month < 0) {
     month += 12;
     --year;
   }
-  int leap = (year - 69) / 4;
+  long long leap = (year - 69) / 4;
   if (month >= 2 && year % 4 == 0) ++leap;
   const unsigned long days =
       DaysToMonth[month] + time->tm_mday - 1 + 365UL * static_cast<unsigned long>(year - 70) + leap;
@@ -114,7 +115,7 @@ void FCTimeWrapper::ConvertEpochToLocalTime(PTTime* localtime, unsigned long epo
   FCASSERT(localtime != NULL);
   tm_struct broken = {};
   DS1371_BinaryToDate(epoch + offsetMinutes * 60L + (dst ? 3600 : 0), &broken);
-  localtime->year = broken.tm_year + 1900;
+  localtime->year = static_cast<int>(static_cast<unsigned int>(broken.tm_year) + 1900U);  // wraps far past 2038
   localtime->month = broken.tm_mon + 1;
   localtime->day = broken.tm_mday;
   localtime->hour = broken.tm_hour;
@@ -131,7 +132,8 @@ void FCTimeWrapper::ConvertLocalToEpochTime(unsigned long* sec, const PTTime* lo
   broken.tm_min = localtime->minute;
   broken.tm_hour = localtime->hour;
   broken.tm_mday = localtime->day;
-  broken.tm_mon = localtime->month - 1;
-  broken.tm_year = localtime->year - 1900;
+  // Wrapping, not overflowing, for the ends of the int range.
+  broken.tm_mon = static_cast<int>(static_cast<unsigned int>(localtime->month) - 1U);
+  broken.tm_year = static_cast<int>(static_cast<unsigned int>(localtime->year) - 1900U);
   *sec = DS1371_DateToBinary(&broken) - offsetMinutes * 60L - (dst ? 3600 : 0);
 }
