@@ -20,6 +20,7 @@
 
 #include <json/json.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string>
@@ -131,21 +132,50 @@ void WriteFields(const Record& record, Json::Value& object, const Fields& fields
   std::apply([&](const auto&... field) { (WriteField(record, object, field), ...); }, fields);
 }
 
-// Finds the members named `keys` in one walk over `object`'s members: a
-// record of twenty fields would otherwise pay twenty tree look-ups. A key
-// the object lacks stays null.
+// Keys ordered as jsoncpp orders an object's members: bytes compared as
+// unsigned, a key before the longer keys it begins.
+struct KeyText {
+  const char* text;
+  std::size_t length;
+};
+
+inline int CompareKeys(const KeyText& a, const KeyText& b) {
+  const int bytes = std::memcmp(a.text, b.text, std::min(a.length, b.length));
+  if (bytes != 0) return bytes;
+  return a.length < b.length ? -1 : (a.length > b.length ? 1 : 0);
+}
+
+// A table's keys in that order, with their positions in the table; worked
+// out once per thread for the table last read, which is nearly always the
+// table read now.
+template <std::size_t N>
+const std::array<std::pair<KeyText, std::size_t>, N>& SortedKeys(const std::array<const char*, N>& keys) {
+  thread_local std::array<const char*, N> cachedFor{};
+  thread_local std::array<std::pair<KeyText, std::size_t>, N> sorted;
+  if (cachedFor != keys) {
+    for (std::size_t i = 0; i < N; ++i) sorted[i] = {{keys[i], std::strlen(keys[i])}, i};
+    std::sort(sorted.begin(), sorted.end(),
+              [](const auto& a, const auto& b) { return CompareKeys(a.first, b.first) < 0; });
+    cachedFor = keys;
+  }
+  return sorted;
+}
+
+// Finds the members named `keys` in one walk over `object`'s members beside
+// the sorted keys: a record of twenty fields would otherwise pay twenty tree
+// look-ups. A key the object lacks stays null.
 template <std::size_t N>
 std::array<const Json::Value*, N> FindMembers(const Json::Value& object, const std::array<const char*, N>& keys) {
   std::array<const Json::Value*, N> found{};
-  std::array<std::size_t, N> lengths;
-  for (std::size_t i = 0; i < N; ++i) lengths[i] = std::strlen(keys[i]);
-  for (auto member = object.begin(); member != object.end(); ++member) {
+  const auto& sorted = SortedKeys(keys);
+  std::size_t next = 0;
+  for (auto member = object.begin(); member != object.end() && next < N; ++member) {
     const char* end = nullptr;
     const char* name = member.memberName(&end);
-    const auto length = static_cast<std::size_t>(end - name);
-    for (std::size_t i = 0; i < N; ++i) {
-      if (lengths[i] == length && std::memcmp(keys[i], name, length) == 0) found[i] = &*member;
-    }
+    const KeyText memberKey{name, static_cast<std::size_t>(end - name)};
+    while (next < N && CompareKeys(sorted[next].first, memberKey) < 0) ++next;
+    // A key the table lists twice is found for both fields.
+    while (next < N && CompareKeys(sorted[next].first, memberKey) == 0) found[sorted[next++].second] = &*member;
   }
   return found;
 }
