@@ -3,6 +3,8 @@
 #include "FCElementData_internal.h"
 #include "FCMarshal.h"
 
+#include <cstring>
+
 using zunde::catalogue::ReadArrayMember;
 using zunde::catalogue::ReadKeyedMap;
 using zunde::catalogue::WriteArrayMember;
@@ -28,8 +30,11 @@ void WriteList(std::vector<Record>& records, const char* key, Json::Value& root)
 
 template <class Record>
 void ReadList(Json::Value& root, const char* key, std::vector<Record>& records) {
-  // Each record is read in place: no copy of a record that may carry a
-  // dozen strings. A record whose reading throws does not stay behind.
+  // Each record is read in place, into room made once: no copy of a record
+  // that may carry a dozen strings. A record whose reading throws does not
+  // stay behind.
+  const Json::Value* array = root.isObject() ? root.find(key, key + std::strlen(key)) : nullptr;
+  if (array != nullptr && array->isArray()) records.reserve(records.size() + array->size());
   ReadArrayMember(root, key, [&records](Json::Value& element) {
     records.emplace_back();
     try {
