@@ -56,18 +56,35 @@ void Payload(benchmark::State& state, std::size_t bytes) {
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes));
 }
 
+// One call of each kind, for the benchmarks run alone and for those run in turns.
+bool BareSmallCall() { return BareCall(sharedBare, "GetRemoteContentEnv", kSmallRequest); }
+
+bool TypedSmallCall(FCRemoteContentOnTV_Proxy& proxy) {
+  std::string country;
+  std::string language;
+  return proxy.GetRemoteContentEnv(country, language);
+}
+
+bool ParseOnce(const std::string& text) {
+  Json::Value root;
+  return Json::Reader().parse(text, root, true);
+}
+
+bool TypedChannelsCall(FCRemoteContentOnTV_MSO_Proxy& proxy) {
+  std::vector<FCRemoteChannel> channels;
+  return proxy.GetFullChannelList(kActivity, channels);
+}
+
 void BareSmall(benchmark::State& state) {
   for (auto _ : state) {
-    if (!BareCall(sharedBare, "GetRemoteContentEnv", kSmallRequest)) state.SkipWithError("no reply");
+    if (!BareSmallCall()) state.SkipWithError("no reply");
   }
   Payload(state, kSmallRequest.size());
 }
 
 void TypedSmall(benchmark::State& state) {
   FCRemoteContentOnTV_Proxy proxy;
-  std::string country;
-  std::string language;
-  for (auto _ : state) benchmark::DoNotOptimize(proxy.GetRemoteContentEnv(country, language));
+  for (auto _ : state) benchmark::DoNotOptimize(TypedSmallCall(proxy));
   Payload(state, kSmallRequest.size());
 }
 
@@ -128,21 +145,14 @@ void BareLarge(benchmark::State& state, const char* member, const std::string& t
 }
 
 void ParseLarge(benchmark::State& state, const std::string& text) {
-  for (auto _ : state) {
-    Json::Value root;
-    Json::Reader reader;
-    benchmark::DoNotOptimize(reader.parse(text, root, true));
-  }
+  for (auto _ : state) benchmark::DoNotOptimize(ParseOnce(text));
   Payload(state, text.size());
 }
 
 void TypedChannels(benchmark::State& state, const std::string& text) {
   Script("GetFullChannelList", text);
   FCRemoteContentOnTV_MSO_Proxy proxy;
-  for (auto _ : state) {
-    std::vector<FCRemoteChannel> channels;
-    benchmark::DoNotOptimize(proxy.GetFullChannelList(kActivity, channels));
-  }
+  for (auto _ : state) benchmark::DoNotOptimize(TypedChannelsCall(proxy));
   Payload(state, text.size());
 }
 
@@ -162,12 +172,8 @@ void Register(const std::string& channels500, const std::string& channels5000, c
   benchmark::RegisterBenchmark("Bare/Small", BareSmall)->UseRealTime();
   benchmark::RegisterBenchmark("Typed/Small", TypedSmall)->UseRealTime();
   auto envProxy = std::make_shared<FCRemoteContentOnTV_Proxy>();
-  const std::vector<Step> smallSteps{
-      {"bare", [] { BareCall(sharedBare, "GetRemoteContentEnv", kSmallRequest); }},
-      {"typed", [envProxy] {
-         std::string country, language;
-         envProxy->GetRemoteContentEnv(country, language);
-       }}};
+  const std::vector<Step> smallSteps{{"bare", [] { BareSmallCall(); }},
+                                     {"typed", [envProxy] { TypedSmallCall(*envProxy); }}};
   benchmark::RegisterBenchmark("InTurns/Small", InTurns, smallSteps)->UseRealTime();
   for (const Size& size : kSizes) {
     benchmark::RegisterBenchmark(("Bare/" + std::string(size.label)).c_str(), BareSized, size)->UseRealTime();
@@ -185,14 +191,8 @@ void Register(const std::string& channels500, const std::string& channels5000, c
   auto msoProxy = std::make_shared<FCRemoteContentOnTV_MSO_Proxy>();
   const std::vector<Step> lineUpSteps{
       {"bare", [] { BareCall(sharedBare, "GetFullChannelList", kActivityRequest); }},
-      {"parse", [&channels5000] {
-         Json::Value root;
-         Json::Reader().parse(channels5000, root, true);
-       }},
-      {"typed", [msoProxy] {
-         std::vector<FCRemoteChannel> channels;
-         msoProxy->GetFullChannelList(kActivity, channels);
-       }}};
+      {"parse", [&channels5000] { ParseOnce(channels5000); }},
+      {"typed", [msoProxy] { TypedChannelsCall(*msoProxy); }}};
   benchmark::RegisterBenchmark("InTurns/Channels5000", [&channels5000, lineUpSteps](benchmark::State& state) {
     Script("GetFullChannelList", channels5000);
     InTurns(state, lineUpSteps);
