@@ -78,8 +78,8 @@ std::string RemoteCall::WriteRequest() const {
   return Json::StyledWriter().write(root);
 }
 
-bool RemoteCall::Transmit(const std::string& request, std::string& reply) {
-  return TransmitText(lines_, site_, nullptr, member_, request, reply);
+bool RemoteCall::Transmit(const std::string& request, FCMessageBuffer& reply) {
+  return TransmitBuffer(lines_, site_, nullptr, member_, request, reply);
 }
 
 bool RemoteCall::Parse(FCMessageBuffer& replyBuffer, Json::Value& root) {
@@ -99,7 +99,7 @@ bool RemoteCall::Exchange(Json::Value& reply) {
     return transport_(member_, request, reply);
   }
   FCMessageBuffer replyBuffer;
-  return TransmitBuffer(lines_, site_, nullptr, member_, WriteRequest(), replyBuffer) && Parse(replyBuffer, reply);
+  return Transmit(WriteRequest(), replyBuffer) && Parse(replyBuffer, reply);
 }
 
 void RemoteCall::ReadOutputs(Json::Value& reply) {
@@ -124,12 +124,12 @@ bool RemoteCall::RunIgnoringRet() {
 bool RemoteCall::Send() {
   if (rejected_) return false;
   FCMessageBuffer replyBuffer;
-  return TransmitBuffer(lines_, site_, nullptr, member_, WriteRequest(), replyBuffer);
+  return Transmit(WriteRequest(), replyBuffer);
 }
 
 bool RemoteCall::PassThrough(const std::string& request, std::string& reply) {
   if (rejected_) return false;
-  return Transmit(request, reply);
+  return TransmitText(lines_, site_, nullptr, member_, request, reply);
 }
 
 bool CallWithStringArguments(const CallLogLines& lines, const char* member, const std::string& request,

@@ -97,7 +97,7 @@ class RemoteCall {
 
  private:
   std::string WriteRequest() const;
-  bool Transmit(const std::string& request, std::string& reply);
+  bool Transmit(const std::string& request, FCMessageBuffer& reply);
   bool Parse(FCMessageBuffer& replyBuffer, Json::Value& root);
   // Sends the request and parses the reply into `reply`; false on failure.
   bool Exchange(Json::Value& reply);
