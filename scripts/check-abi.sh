@@ -15,7 +15,6 @@ if [ "${1:-}" = "--update" ]; then
 fi
 build_dir=$(cd "${1:?usage: scripts/check-abi.sh [--update] BUILD_DIR}" && pwd)
 record=abi/libzunde-provider.abi
-suppressions=abi/internals.abignore
 library=$build_dir/libzunde-provider.so.0
 
 work=$(mktemp -d)
@@ -29,7 +28,7 @@ done <"$build_dir/public-headers.txt"
 
 # Without paths, locations and the corpus name, so that the record is the
 # same whichever folder the build ran in.
-abidw "${header_args[@]}" --suppressions "$suppressions" --drop-private-types \
+abidw "${header_args[@]}" --drop-private-types \
   --no-corpus-path --no-comp-dir-path --no-show-locs --type-id-style hash \
   --out-file "$work/current.abi" "$library"
 sed -i -e "s|$PWD/||g" -e "s|$build_dir/||g" "$work/current.abi"
@@ -41,7 +40,7 @@ if $update; then
 fi
 
 status=0
-abidiff --no-show-locs --suppressions "$suppressions" "$record" "$work/current.abi" >"$work/report" || status=$?
+abidiff --no-show-locs "$record" "$work/current.abi" >"$work/report" || status=$?
 cat "$work/report"
 # abidiff's status is a bit set: 1 error, 2 usage error, 4 some change,
 # 8 an incompatible change.
