@@ -12,8 +12,8 @@
 
 namespace zunde::bench {
 
-// From now on the service answers `member` with `payload` (status 0).
-void Script(const std::string& member, const std::string& payload);
+// From now on the service answers `member` with `payload` (status 0), `delayMs` after each call.
+void Script(const std::string& member, const std::string& payload, unsigned delayMs = 0);
 // Lets the service forget the calls it recorded, so big requests do not pile up there.
 void ForgetCalls();
 
