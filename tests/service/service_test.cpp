@@ -266,6 +266,18 @@ TEST_F(Service, AnOlderStoreKeepsItsUsageLog) {
   EXPECT_EQ(Sql("SELECT json_extract(value, '$.EventName') FROM log ORDER BY id"), " x y");
 }
 
+TEST_F(Service, AnOlderStoreKeepsItsSetTopBoxesAndTheirMaps) {
+  EXPECT_EQ(RunningService::Stop(), 0);
+  std::remove((dataDir_ + "/zunde-service.db").c_str());
+  Sql("CREATE TABLE document (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL);"
+      "CREATE TABLE log (id INTEGER PRIMARY KEY, name TEXT NOT NULL, value TEXT NOT NULL); PRAGMA user_version=2;"
+      "INSERT INTO document VALUES ('activity/0', '{\"source\": 7, \"zip code\": \"12345\","
+      " \"MBR channel table\": [{\"m_major\": 2, \"m_minor\": 1}]}')");
+  RunningService::Start(dataDir_);
+  EXPECT_EQ(Map(Query(0)), "1 2-1");
+  EXPECT_EQ(Str([](std::string& s) { return mbr.GetZipCode(A0, s); }), "1 12345");
+}
+
 // A store on a read-only medium: its file opened read-only.
 TEST_F(Service, AReadOnlyStoreAnswersReadsAndRefusesChanges) {
   ASSERT_TRUE(env.SetRemoteContentEnv("FR", "fr"));
