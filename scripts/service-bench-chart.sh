@@ -15,12 +15,13 @@ trap 'rm -f "$data"' EXIT
 jq -r '[.benchmarks[] | select(.run_type == "iteration")]
        | group_by(.run_name)[]
        | def median(f): (map(f) | sort | .[(length / 2) | floor]);
-         [(.[0].run_name | sub("/iterations:[0-9]+"; "") | sub("/real_time"; "") | sub("/"; "\\n")),
+         [(.[0].run_name | sub("/.*"; "")),
           median(.first_ms), median(.second_ms)]
        | @tsv' "$input" > "$data"
 
 gnuplot <<PLOT
-set terminal pngcairo size 900,480 font ",10"
+set terminal pngcairo size 900,480 font ",10" noenhanced
+set xtics rotate by -15
 set output "$output"
 set title "zunde-service through the library, in turns (medians)"
 set style data histograms
