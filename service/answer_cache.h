@@ -14,7 +14,7 @@ class AnswerCache {
  public:
   // Keeps at most about `maxBytes` of requests and answers together; past
   // that, everything kept goes before the new answer is kept.
-  explicit AnswerCache(std::size_t maxBytes = std::size_t{256} << 20) : maxBytes_(maxBytes) {}
+  explicit AnswerCache(std::size_t maxBytes = std::size_t{64} << 20) : maxBytes_(maxBytes) {}
 
   // The kept answer; null when there is none.
   const std::string* Find(const std::string& member, const std::string& payload) const;
