@@ -1,5 +1,6 @@
 // The catalogue's file form. Records travel in the library's own JSON forms
-// (their ToJson and FromJson); the rest is plain members. A file is checked
+// (their ToJson and FromJson); the rest is plain members. What a file leaves
+// out is filled in first (catalogue_file_defaults.cpp); then it is checked
 // against the written default set: every member that the default has must
 // be there with the same JSON type, and each element of an array must have
 // the shape of the default's first element.
@@ -203,7 +204,7 @@ Catalogue FromDocument(Json::Value& doc) {
 
 Json::Value CatalogueToJson(const Catalogue& catalogue) { return Document(catalogue); }
 
-Catalogue LoadCatalogue(const std::string& path) {
+Catalogue LoadCatalogue(const std::string& path, int lineupSize) {
   std::ifstream file(path);
   if (!file) throw CatalogueError("cannot read " + path);
   std::stringstream text;
@@ -212,6 +213,7 @@ Catalogue LoadCatalogue(const std::string& path) {
   Json::Reader reader;
   if (!reader.parse(text.str(), doc, false)) throw CatalogueError("not JSON: " + reader.getFormattedErrorMessages());
   static const Json::Value example = CatalogueToJson(DefaultCatalogue(2));
+  FillLeftOut(doc, CatalogueToJson(DefaultCatalogue(lineupSize)));
   CheckLike(example, doc, "");
   CheckValues(doc);
   Catalogue catalogue = FromDocument(doc);
