@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # A private bus that plays the system bus, with zunde-service on it, left
 # running for applications under development.
-#   eval "$(scripts/dev-env.sh start)"   builds what is missing, starts both (or
+#   eval "$(scripts/dev-env.sh start [SERVICE OPTIONS])"
+#                                        builds what is missing, starts both (or
 #                                        reuses a running pair) and prints the
-#                                        line that points DBUS_SYSTEM_BUS_ADDRESS at it
+#                                        line that points DBUS_SYSTEM_BUS_ADDRESS at it;
+#                                        options such as --catalogue FILE go to zunde-service
 #   scripts/dev-env.sh status            what runs, with pids
 #   scripts/dev-env.sh stop              stops what start started
 # Installed, the same script is bin/zunde-dev-env and uses the installed
@@ -68,7 +70,7 @@ start_bus() {
 }
 
 start_service() {
-  DBUS_SYSTEM_BUS_ADDRESS=$(head -n1 "$dir/address") setsid "$service" --data-dir "$dir/data" \
+  DBUS_SYSTEM_BUS_ADDRESS=$(head -n1 "$dir/address") setsid "$service" --data-dir "$dir/data" "$@" \
     >"$dir/service.log" 2>&1 </dev/null &
   echo $! >"$dir/service.pid"
   if ! wait_for "$dir/service.log" "zunde-service ready" "$(pid_of service)"; then
@@ -95,11 +97,12 @@ start() {
   mkdir -p "$dir"
   if is_running "$(pid_of bus)" dbus-daemon && is_running "$(pid_of service)" zunde-service; then
     say "reusing the running bus (pid $(pid_of bus)) and zunde-service (pid $(pid_of service))"
+    if (($#)); then say "the options $* were not used: stop first to start with them"; fi
   else
     build_missing
     stop
     start_bus
-    start_service
+    start_service "$@"
     say "zunde-service (pid $(pid_of service)) on a private bus (pid $(pid_of bus)); data in $dir/data"
   fi
   say "zunde-cli: $cli"
@@ -129,7 +132,7 @@ stop() {
 }
 
 case "${1:-}" in
-  start) start ;;
+  start) shift; start "$@" ;;
   status) status ;;
   stop) stop ;;
   *) echo "usage: $0 start|status|stop" >&2; exit 2 ;;

@@ -67,13 +67,15 @@ void Fill(Json::Value& element, const Json::Value& defaults) {
 // line-up's activity, shows its major as its number, and its guide and
 // match-finder key is its major and minor.
 void FillChannel(Json::Value& channel, const Json::Value& activity) {
-  if (!channel.isObject() || !channel["str_major"].isString()) return;
-  const std::string major = channel["str_major"].asString();
-  if (!channel.isMember("activityID")) channel["activityID"] = activity;
-  if (!channel.isMember("str_channel_number")) channel["str_channel_number"] = major;
-  if (!channel.isMember("str_program_source_id")) {
-    const Json::Value& minor = channel["str_minor"];
-    channel["str_program_source_id"] = major + "-" + (minor.isString() ? minor.asString() : "0");
+  if (!channel.isObject()) return;
+  if (channel.isMember("str_major") && channel["str_major"].isString()) {
+    const std::string major = channel["str_major"].asString();
+    const Json::Value minor = channel.get("str_minor", "0");
+    if (!channel.isMember("activityID")) channel["activityID"] = activity;
+    if (!channel.isMember("str_channel_number")) channel["str_channel_number"] = major;
+    if (!channel.isMember("str_program_source_id")) {
+      channel["str_program_source_id"] = major + "-" + (minor.isString() ? minor.asString() : "0");
+    }
   }
   Fill(channel, ChannelDefaults());
 }
