@@ -88,6 +88,7 @@ void FillArray(Json::Value& array, const Json::Value& defaults) {
 }  // namespace
 
 void FillLeftOut(Json::Value& doc, const Json::Value& defaults) {
+  if (!doc.isObject()) return;  // the shape check refuses it
   Fill(doc, defaults);
   FillArray(doc["broadcast"], BroadcastDefaults());
   FillArray(doc["virtual channels"], VirtualDefaults());
