@@ -126,6 +126,18 @@ void CheckLike(const Json::Value& example, const Json::Value& given, const std::
   }
 }
 
+// jsoncpp spreads a parse error over several indented lines; the log gets one.
+std::string OneLine(const std::string& text) {
+  std::istringstream lines(text);
+  std::string line, joined;
+  while (std::getline(lines, line)) {
+    const size_t start = line.find_first_not_of(' ');
+    if (start == std::string::npos) continue;
+    joined += (joined.empty() ? "" : " ") + line.substr(start);
+  }
+  return joined;
+}
+
 unsigned long long ServiceId(const Json::Value& text, const std::string& place) {
   const std::string digits = text.asString();
   if (digits.empty() || digits.find_first_not_of("0123456789") != std::string::npos) {
@@ -211,7 +223,9 @@ Catalogue LoadCatalogue(const std::string& path, int lineupSize) {
   text << file.rdbuf();
   Json::Value doc;
   Json::Reader reader;
-  if (!reader.parse(text.str(), doc, false)) throw CatalogueError("not JSON: " + reader.getFormattedErrorMessages());
+  if (!reader.parse(text.str(), doc, false)) {
+    throw CatalogueError("not JSON: " + OneLine(reader.getFormattedErrorMessages()));
+  }
   static const Json::Value example = CatalogueToJson(DefaultCatalogue(2));
   FillLeftOut(doc, CatalogueToJson(DefaultCatalogue(lineupSize)));
   CheckLike(example, doc, "");
