@@ -41,11 +41,12 @@ pid_of() { cat "$dir/$1.pid" 2>/dev/null || true; }
 build_missing() {
   [ -x "$service" ] && [ -x "$cli" ] && return 0
   [ -n "$root" ] || { say "$service is missing from the installation"; exit 1; }
+  bash "$root/scripts/install-dependencies.sh" --build >&2  # stdout is for the export line
   say "building zunde-service and zunde-cli in $build (log: $dir/build.log)"
   if ! { cmake -S "$root" -B "$build" && cmake --build "$build" -j"$(nproc)" --target zunde-service zunde-cli; } \
     >"$dir/build.log" 2>&1; then
     cat "$dir/build.log" >&2
-    say "the build failed (output above); scripts/install-dependencies.sh --build installs what it needs"
+    say "the build failed (its output is above)"
     exit 1
   fi
 }
