@@ -12,6 +12,8 @@
 
 #include "FCElementData.h"
 #include "FCMarshal.h"
+#include "child_process.h"
+#include "test_bus.h"
 
 namespace zunde::bench {
 namespace {
@@ -59,6 +61,20 @@ long StatusKiB(const char* field) {
 }
 
 }  // namespace
+
+AnsweringService::AnsweringService(const char* replyAll) {
+  zunde::testing::TestBus::Start();
+  pid_ = zunde::testing::StartChild([replyAll](int writeFd) {
+           dup2(writeFd, STDOUT_FILENO);
+           close(writeFd);
+           execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", "--reply-all", replyAll, static_cast<char*>(nullptr));
+         }).pid;
+}
+
+AnsweringService::~AnsweringService() {
+  zunde::testing::StopChild(pid_);
+  zunde::testing::TestBus::Stop();
+}
 
 void Script(const std::string& member, const std::string& payload, unsigned delayMs) {
   DBusMessage* message = dbus_message_new_method_call(kListener, kControlPath, kControlInterface, "Script");

@@ -7,7 +7,6 @@
 // The ratios follow the table (on standard error with --benchmark_format=json).
 #include <benchmark/benchmark.h>
 #include <json/json.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -24,8 +23,6 @@
 #include "FCRemoteContentOnTV_Proxy.h"
 #include "bench_support.h"
 #include "ratio_reporter.h"
-#include "child_process.h"
-#include "test_bus.h"
 
 namespace {
 
@@ -232,26 +229,12 @@ void PrintRatios(const Reporter& r, FILE* out, long bareBytes, long libraryBytes
   Ratio(out, "peak memory above idle, 4 MiB reply, pass-through / reply size", libraryBytes / reply, 2.25);
 }
 
-template <typename Base>
-void Run(FILE* out, long bareBytes, long libraryBytes) {
-  RatioReporter<Base> reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  PrintRatios(reporter, out, bareBytes, libraryBytes);
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
-  bool json = false;
-  for (int i = 1; i < argc; ++i) json = json || std::string(argv[i]) == "--benchmark_format=json";
+  const bool json = JsonRequested(argc, argv);
   benchmark::Initialize(&argc, argv);
-  zunde::testing::TestBus::Start();
-  pid_t service = zunde::testing::StartChild([](int writeFd) {
-                          dup2(writeFd, STDOUT_FILENO);
-                          close(writeFd);
-                          execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", "--reply-all", kSmallReply,
-                                static_cast<char*>(nullptr));
-                        }).pid;
+  AnsweringService service(kSmallReply);
 
   // Peak memory first, in fresh children, before this process has touched the library.
   const std::string big = PaddedText(kSizes[2].bytes);
@@ -276,12 +259,8 @@ int main(int argc, char** argv) {
   std::fprintf(stderr, "reply texts: 500 channels %zu B, 5000 channels %zu B, week map (50 channels) %zu B\n",
                channels500.size(), channels5000.size(), week.size());
   Register(channels500, channels5000, week);
-  if (json) {
-    Run<benchmark::JSONReporter>(stderr, bareBytes, libraryBytes);
-  } else {
-    Run<benchmark::ConsoleReporter>(stdout, bareBytes, libraryBytes);
-  }
-  zunde::testing::StopChild(service);
-  zunde::testing::TestBus::Stop();
+  RunAndPrintRatios(json, [&](const auto& reporter, FILE* out) {
+    PrintRatios(reporter, out, bareBytes, libraryBytes);
+  });
   return 0;
 }

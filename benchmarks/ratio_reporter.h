@@ -52,6 +52,29 @@ inline void Ratio(FILE* out, const char* what, double value, double target) {
   }
 }
 
+// Whether the command line asks for the table as JSON; ask before
+// benchmark::Initialize, which takes its own flags away.
+inline bool JsonRequested(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i)
+    if (std::string(argv[i]) == "--benchmark_format=json") return true;
+  return false;
+}
+
+// Runs the benchmarks, then `print(reporter, out)`: the ratios follow the
+// table on standard output, or go to standard error when it is JSON.
+template <typename PrintRatios>
+void RunAndPrintRatios(bool json, PrintRatios print) {
+  if (json) {
+    RatioReporter<benchmark::JSONReporter> reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    print(reporter, stderr);
+  } else {
+    RatioReporter<benchmark::ConsoleReporter> reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    print(reporter, stdout);
+  }
+}
+
 }  // namespace zunde::bench
 
 #endif

@@ -4,7 +4,6 @@
 // Run:
 //   build/benchmarks/threads_benchmark --benchmark_repetitions=3 --benchmark_enable_random_interleaving=true
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include <chrono>
 #include <cstdio>
@@ -14,9 +13,7 @@
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
 #include "FCRemoteContentOnTV_Proxy.h"
 #include "bench_support.h"
-#include "child_process.h"
 #include "ratio_reporter.h"
-#include "test_bus.h"
 
 namespace {
 
@@ -80,10 +77,8 @@ void Register() {
   benchmark::RegisterBenchmark("Threads/TwentyMs", TwentyMsCall)->Threads(4)->UseRealTime();
 }
 
-template <typename Base>
-void Run(FILE* out) {
-  RatioReporter<Base> r;
-  benchmark::RunSpecifiedBenchmarks(&r);
+template <typename Reporter>
+void PrintRatios(const Reporter& r, FILE* out) {
   std::fprintf(out, "\nRatios:\n");
   Ratio(out, "fast call beside a slow one / the same call alone",
         r.Time("Threads/FastBesideSlow.beside_slow") / r.Time("Threads/FastBesideSlow.alone"), 1.5);
@@ -94,25 +89,12 @@ void Run(FILE* out) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  bool json = false;
-  for (int i = 1; i < argc; ++i) json = json || std::string(argv[i]) == "--benchmark_format=json";
+  const bool json = JsonRequested(argc, argv);
   benchmark::Initialize(&argc, argv);
-  zunde::testing::TestBus::Start();
-  pid_t service = zunde::testing::StartChild([](int writeFd) {
-                    dup2(writeFd, STDOUT_FILENO);
-                    close(writeFd);
-                    execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", "--reply-all", kFastReply,
-                          static_cast<char*>(nullptr));
-                  }).pid;
+  AnsweringService service(kFastReply);
   Script(kSlowMember, R"({"ret": true, "in_user_id": "u"})", kSlowMs);
   Script(kTwentyMsMember, R"({"ret": true})", kTwentyMs);
   Register();
-  if (json) {
-    Run<benchmark::JSONReporter>(stderr);
-  } else {
-    Run<benchmark::ConsoleReporter>(stdout);
-  }
-  zunde::testing::StopChild(service);
-  zunde::testing::TestBus::Stop();
+  RunAndPrintRatios(json, [](const auto& reporter, FILE* out) { PrintRatios(reporter, out); });
   return 0;
 }

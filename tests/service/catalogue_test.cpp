@@ -1,7 +1,9 @@
 // zunde-service's catalogue families driven through the library's proxies:
 // answers that must agree with each other, and catalogue files.
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <ctime>
@@ -12,6 +14,7 @@
 #include "FCMatchFinder_Proxy.h"
 #include "FCRFNetworkChannelTable.h"
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
+#include "FCRemoteContentOnTV_Proxy.h"
 #include "FCSmartChannelGuide.h"
 #include "FCVirtualProgramData.h"
 #include "FCVirtualChannels_Proxy.h"
@@ -27,6 +30,7 @@ FCRemoteContentOnTV_MSO_Proxy mso;
 FCMatchFinder_Proxy finder;
 FCRFNetworkChannelManager_Proxy rf;
 FCVirtualChannels_Proxy vc;
+FCRemoteContentOnTV_Proxy env;
 const auto A0 = static_cast<eRemoteContentActivity>(0);
 const unsigned long long kNews = (0x22D4ULL << 32) | (1ULL << 16) | 101;  // station 10002 on the air
 const unsigned long long kVirtual = (0xFFFEULL << 32) | (1ULL << 16) | 1;
@@ -294,6 +298,51 @@ TEST(CatalogueFile, AMalformedFileIsRefusedNamingItsFirstProblem) {
   const std::string notJson = "zunde-service: catalogue " + file + ": not JSON: * Line 1";
   EXPECT_EQ(RunService("--data-dir /tmp/zunde-catalogue-malformed --catalogue " + file).second.substr(0, notJson.size()), notJson);
   std::system("rm -rf /tmp/zunde-catalogue-malformed*");
+}
+
+// Name, major and program source id of each channel of activity 0.
+std::string Lineup() {
+  std::vector<FCRemoteChannel> channels;
+  std::string text = mso.GetFullChannelList(A0, channels) ? "" : "refused";
+  for (const FCRemoteChannel& c : channels) text += c.str_channel_name + " " + c.str_major + " " + c.str_program_source_id + ";";
+  return text;
+}
+
+// The reload happens on the service's own time: wait for its answer to change.
+std::string LineupOnceChangedFrom(const std::string& before) {
+  std::string now = Lineup();
+  for (int i = 0; i < 20 && now == before; ++i) {
+    usleep(100 * 1000);
+    now = Lineup();
+  }
+  return now;
+}
+
+TEST_F(CatalogueService, SighupReloadsTheFileKeepingTheStoredState) {
+  const std::string file = dir_ + ".json";
+  const auto write = [&](const std::string& text) { std::ofstream(file) << text; };
+  write(R"({"lineups": [{"activityID": 0, "channels": [{"str_channel_name": "One", "str_major": "2"}]}]})");
+  Restart({"--catalogue", file});
+  ASSERT_EQ(Lineup(), "One 2 2-0;");
+  ASSERT_TRUE(env.SetRemoteContentEnv("DE", "de"));
+
+  const std::pair<std::string, std::string> reloads[] = {
+      {R"({"lineups": [{"activityID": 0, "channels": [{"str_channel_name": "Two", "str_major": "5"},
+           {"str_channel_name": "Three", "str_major": "6", "str_minor": "1", "str_program_source_id": "S3"}]}]})",
+       "Two 5 5-0;Three 6 S3;"},
+      {R"({"lineups": [{"activityID": 0, "channels": [{"str_major": "7"}]}]})", "Two 5 5-0;Three 6 S3;"},
+      {"{", "Two 5 5-0;Three 6 S3;"},
+  };
+  for (const auto& [text, expected] : reloads) {
+    const std::string before = Lineup();
+    write(text);
+    RunningService::Signal(SIGHUP);
+    EXPECT_EQ(LineupOnceChangedFrom(before), expected) << text;
+  }
+  std::string country, language;
+  EXPECT_TRUE(env.GetRemoteContentEnv(country, language));
+  EXPECT_EQ(country + language, "DEde");
+  std::remove(file.c_str());
 }
 
 }  // namespace
