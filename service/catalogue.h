@@ -14,6 +14,8 @@
 
 #include <ctime>
 #include <map>
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -23,6 +25,10 @@
 #include "FCVirtualProgramData.h"
 
 namespace zunde::service {
+
+namespace guide {
+class ListedGuide;
+}
 
 // One of the set's own tuned services.
 struct BroadcastChannel {
@@ -59,6 +65,11 @@ struct VirtualChannel {
   std::string service;
   std::string genre;
   std::string imageBase;  // logos, thumbnails and backgrounds live under it
+  // A playlist's channel: its own logo and stream, and the guide channel
+  // its programmes come from; "" for none.
+  std::string logo;
+  std::string streamUrl;
+  std::string guideKey;
 };
 
 // A programme slot of a broadcast or virtual channel.
@@ -68,6 +79,7 @@ struct Slot {
   std::string title;
   std::string genre;
   long index = 0;  // the slot's place in the channel's endless sequence
+  std::optional<FCRemoteProgram> listed;  // the programme as a guide file lists it
 };
 
 struct Catalogue {
@@ -82,6 +94,10 @@ struct Catalogue {
   std::vector<VirtualChannel> virtualChannels;
   FCVirtualConfig virtualConfig;
   bool viewingAgreement = true;
+
+  // Programmes a guide file lists; a channel key found there takes its
+  // programmes from it instead of its genre's schedule.
+  std::shared_ptr<const guide::ListedGuide> listed;
 
   // When the guide window was fixed: the service's start.
   time_t now = 0;

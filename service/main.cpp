@@ -5,7 +5,6 @@
 // events and holds back slow answers. SIGTERM and SIGINT end the loop; the
 // held-back answers are then sent and the store closed.
 #include <glib-unix.h>
-#include <sys/stat.h>
 
 #include <cerrno>
 #include <cstdio>
@@ -16,6 +15,8 @@
 
 #include "bus_service.h"
 #include "catalogue.h"
+#include "catalogue_source.h"
+#include "FCMarshal.h"
 #include "options.h"
 
 namespace {
@@ -27,27 +28,6 @@ bool MakeFolder(const std::string& dir) {
   if (g_mkdir_with_parents(dir.c_str(), 0700) == 0) return true;
   std::fprintf(stderr, "zunde-service: cannot make %s: %s\n", dir.c_str(), std::strerror(errno));
   return false;
-}
-
-bool Exists(const std::string& path) {
-  struct stat info {};
-  return stat(path.c_str(), &info) == 0;
-}
-
-// The catalogue the options name, else the data folder's, else the
-// built-in set; its guide window starts from now.
-std::unique_ptr<Catalogue> ChooseCatalogue(const Options& options) {
-  std::string path = options.catalogue;
-  if (path.empty() && Exists(options.dataDir + "/catalogue.json")) path = options.dataDir + "/catalogue.json";
-  std::unique_ptr<Catalogue> catalogue;
-  try {
-    catalogue = std::make_unique<Catalogue>(path.empty() ? DefaultCatalogue(options.lineupSize) : LoadCatalogue(path));
-  } catch (const CatalogueError& refused) {
-    std::fprintf(stderr, "zunde-service: catalogue %s: %s\n", path.c_str(), refused.what());
-    return nullptr;
-  }
-  catalogue->now = std::time(nullptr);
-  return catalogue;
 }
 
 int WriteDefaultCatalogue(const Options& options) {
@@ -63,10 +43,37 @@ gboolean Quit(gpointer loop) {
   return G_SOURCE_CONTINUE;
 }
 
+// The language the user set, which picks a guide file's titles.
+std::string LanguageOf(const Store& store) {
+  std::string country;
+  std::string language = "en";
+  Json::Value environment = store.Get("environment");
+  if (!environment.isNull()) FCMarshal::JsonToCountryAndLang(environment, country, language);
+  return language;
+}
+
+struct Reload {
+  const Options& options;
+  const Store& store;
+  Catalogue& catalogue;
+};
+
+// Requests are answered on this same loop, so the catalogue is swapped
+// between two of them; a catalogue that fails to load leaves the running
+// one as it was.
+gboolean ReloadCatalogue(gpointer data) {
+  Reload& reload = *static_cast<Reload*>(data);
+  if (std::unique_ptr<Catalogue> fresh = BuildCatalogue(reload.options, LanguageOf(reload.store))) {
+    reload.catalogue = std::move(*fresh);
+    std::fprintf(stderr, "zunde-service: reloaded the catalogue\n");
+  } else {
+    std::fprintf(stderr, "zunde-service: reload refused; the running catalogue stays\n");
+  }
+  return G_SOURCE_CONTINUE;
+}
+
 int Serve(const Options& options) {
   if (!MakeFolder(options.dataDir)) return 1;
-  const std::unique_ptr<Catalogue> catalogue = ChooseCatalogue(options);
-  if (!catalogue) return 1;
   std::unique_ptr<Store> store;
   try {
     store = std::make_unique<Store>(options.dataDir + "/zunde-service.db",
@@ -79,7 +86,10 @@ int Serve(const Options& options) {
     std::fprintf(stderr, "zunde-service: the store is read-only (%s): changes will be refused\n",
                  store->ReadOnlyReason().c_str());
   }
+  const std::unique_ptr<Catalogue> catalogue = BuildCatalogue(options, LanguageOf(*store));
+  if (!catalogue) return 1;
   Dispatcher dispatcher(*store, *catalogue, options.limits);
+  Reload reload{options, *store, *catalogue};
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   int status = 0;
   {
@@ -97,6 +107,7 @@ int Serve(const Options& options) {
         });
     g_unix_signal_add(SIGTERM, Quit, loop);
     g_unix_signal_add(SIGINT, Quit, loop);
+    g_unix_signal_add(SIGHUP, ReloadCatalogue, &reload);
     if (service.Start()) {
       g_main_loop_run(loop);
     } else {

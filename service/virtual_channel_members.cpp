@@ -32,13 +32,23 @@ FCVirtualProgramId IdOf(Request& request) {
   return id;
 }
 
+// A playlist's channel plays its own stream and shows its guide channel's
+// programmes; the others have everything under their image base.
+std::string ScheduleKeyOf(const VirtualChannel& channel) {
+  return channel.guideKey.empty() ? std::to_string(channel.serviceId) : channel.guideKey;
+}
+
+std::string StreamOf(const VirtualChannel& channel, const std::string& start) {
+  return channel.streamUrl.empty() ? channel.imageBase + "/stream/" + start + ".m3u8" : channel.streamUrl;
+}
+
 FCVirtualProgramData ProgramOf(const VirtualChannel& channel, const Slot& slot) {
   const std::string start = std::to_string(slot.start);
   FCVirtualProgramData program;
   program.SetServiceId(channel.serviceId);
   program.SetEventId(std::to_string(channel.serviceId) + ":" + start);
   program.SetContentType("playlist");
-  program.SetContentUri(channel.imageBase + "/stream/" + start + ".m3u8");
+  program.SetContentUri(StreamOf(channel, start));
   program.SetStartTime(slot.start);
   program.SetDuration(slot.duration);
   program.SetTitle(slot.title);
@@ -54,12 +64,16 @@ FCVirtualProgramData ProgramOf(const VirtualChannel& channel, const Slot& slot) 
   program.SetPosterUrl(channel.imageBase + "/poster/" + start + ".jpg");
   program.SetPosterIndex(std::to_string(slot.index % 1000));
   program.SetShortDescription(slot.title + " on " + channel.name);
+  if (slot.listed) {
+    program.SetPosterUrl(slot.listed->str_poster_url);
+    program.SetShortDescription(slot.listed->str_short_desc);
+  }
   return program;
 }
 
 Slot SlotAt(Request& request, const VirtualChannel& channel, time_t time) {
   Slot slot;
-  if (!request.catalogue.SlotAt(std::to_string(channel.serviceId), channel.genre, time, request.catalogue.WindowEnd(),
+  if (!request.catalogue.SlotAt(ScheduleKeyOf(channel), channel.genre, time, request.catalogue.WindowEnd(),
                                 slot)) {
     throw BadRequest("no programme on virtual channel " + std::to_string(channel.serviceId) + " at " + std::to_string(time));
   }
@@ -87,7 +101,7 @@ void ProgramList(Request& request, Json::Value& reply) {
   FCMarshal::JsonToStartTime(request.body, start);
   FCMarshal::JsonToDuration(request.body, duration);
   std::map<unsigned int, FCVirtualProgramData> programs;
-  for (const Slot& slot : request.catalogue.SlotsBetween(std::to_string(channel.serviceId), channel.genre, start,
+  for (const Slot& slot : request.catalogue.SlotsBetween(ScheduleKeyOf(channel), channel.genre, start,
                                                          static_cast<time_t>(start) + duration,
                                                          request.catalogue.WindowEnd())) {
     programs[slot.start] = ProgramOf(channel, slot);
@@ -132,8 +146,9 @@ void Present(Request& request, Json::Value& reply) {
 void ChannelLogo(Request& request, Json::Value& reply) {
   FCVirtualChannelsAPI::EChannelLogoSize size;
   FCMarshal::JsonToLogoSize(request.body, size);
-  FCMarshal::ChannelLogoToJson(ChannelOf(request, ServiceIdOf(request)).imageBase + "/logo_" + std::to_string(size) + ".png",
-                               reply);
+  const VirtualChannel& channel = ChannelOf(request, ServiceIdOf(request));
+  FCMarshal::ChannelLogoToJson(
+      channel.logo.empty() ? channel.imageBase + "/logo_" + std::to_string(size) + ".png" : channel.logo, reply);
   Succeed(reply);
 }
 
