@@ -52,13 +52,16 @@ FCVirtualProgramData ProgramOf(const VirtualChannel& channel, const Slot& slot) 
   program.SetStartTime(slot.start);
   program.SetDuration(slot.duration);
   program.SetTitle(slot.title);
-  std::vector<FCVirtualPlaylistItem> playlist(kPlaylistItems);
-  for (int i = 0; i < kPlaylistItems; ++i) {
+  // A playlist's channel plays its one stream; the others a few clips.
+  const int items = channel.streamUrl.empty() ? kPlaylistItems : 1;
+  std::vector<FCVirtualPlaylistItem> playlist(items);
+  for (int i = 0; i < items; ++i) {
     playlist[i].SetOrder(i + 1);
     playlist[i].SetItemId(start + "-" + std::to_string(i + 1));
-    playlist[i].SetTitle(slot.title + " (part " + std::to_string(i + 1) + ")");
-    playlist[i].SetContentUri(channel.imageBase + "/clips/" + start + "-" + std::to_string(i + 1) + ".mp4");
-    playlist[i].SetDuration(slot.duration / kPlaylistItems);
+    playlist[i].SetTitle(items == 1 ? slot.title : slot.title + " (part " + std::to_string(i + 1) + ")");
+    playlist[i].SetContentUri(items == 1 ? channel.streamUrl
+                                         : channel.imageBase + "/clips/" + start + "-" + std::to_string(i + 1) + ".mp4");
+    playlist[i].SetDuration(slot.duration / items);
   }
   program.SetPlaylist(playlist);
   program.SetPosterUrl(channel.imageBase + "/poster/" + start + ".jpg");

@@ -43,6 +43,7 @@ void Collect(void* self, xmlErrorPtr error) {
   std::string& first = *static_cast<std::string*>(self);
   if (error == nullptr || error->level < XML_ERR_ERROR || !first.empty()) return;
   std::string message = error->message ? error->message : "not well-formed";
+  message = message.substr(0, message.find('\n'));
   while (!message.empty() && (message.back() == '\n' || message.back() == ' ')) message.pop_back();
   first = std::to_string(error->line) + ":" + std::to_string(error->int2) + ": " + message;
 }
@@ -64,9 +65,15 @@ void XmlStream::ThrowIfFailed() const {
   if (!error_.empty()) throw GuideFileError(path_ + ":" + error_);
 }
 
+// The place of the current node: the parser has often read past it, so its
+// own column is only kept while it is still on the node's line.
 void XmlStream::Fail(const std::string& why) const {
-  throw GuideFileError(path_ + ":" + std::to_string(xmlTextReaderGetParserLineNumber(reader_)) + ":" +
-                       std::to_string(xmlTextReaderGetParserColumnNumber(reader_)) + ": " + why);
+  const int parserLine = xmlTextReaderGetParserLineNumber(reader_);
+  const xmlNodePtr node = xmlTextReaderCurrentNode(reader_);
+  const long nodeLine = node ? xmlGetLineNo(node) : -1;
+  const bool sameLine = nodeLine <= 0 || nodeLine == parserLine;
+  const std::string column = sameLine ? std::to_string(xmlTextReaderGetParserColumnNumber(reader_)) : "1";
+  throw GuideFileError(path_ + ":" + std::to_string(sameLine ? parserLine : nodeLine) + ":" + column + ": " + why);
 }
 
 bool XmlStream::NextElement(int depth) {
