@@ -151,7 +151,7 @@ void ChannelLogo(Request& request, Json::Value& reply) {
   FCMarshal::JsonToLogoSize(request.body, size);
   const VirtualChannel& channel = ChannelOf(request, ServiceIdOf(request));
   FCMarshal::ChannelLogoToJson(
-      channel.logo.empty() ? channel.imageBase + "/logo_" + std::to_string(size) + ".png" : channel.logo, reply);
+      channel.streamUrl.empty() ? channel.imageBase + "/logo_" + std::to_string(size) + ".png" : channel.logo, reply);
   Succeed(reply);
 }
 
