@@ -7,6 +7,8 @@ packages=(
   build-essential cmake pkg-config
   libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev libsqlite3-dev
   libcli11-dev
+  libxml2-dev zlib1g-dev
+  libxmltv-perl libxml2-utils
   abigail-tools
   dbus-daemon
   googletest libgtest-dev libgmock-dev libbenchmark-dev
