@@ -1,16 +1,29 @@
 #include "listed_guide.h"
 
-#include <json/json.h>
-
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 
 namespace zunde::service::guide {
 namespace {
 
+// One column per field a guide file fills; the rest of a record is empty.
 const char kSchema[] =
-    "CREATE TABLE programme(source TEXT NOT NULL, start INTEGER NOT NULL, stop INTEGER, record TEXT NOT NULL,"
-    " PRIMARY KEY(source, start)) WITHOUT ROWID;";
+    "CREATE TABLE programme(source TEXT NOT NULL, start INTEGER NOT NULL, stop INTEGER, activity INTEGER,"
+    " channel_name TEXT, channel_number TEXT, program_id TEXT, lang TEXT, start_text TEXT, title TEXT, cert TEXT,"
+    " genres TEXT, poster TEXT, short_desc TEXT, PRIMARY KEY(source, start)) WITHOUT ROWID;";
+
+const int kTextColumns = 10;  // channel_name to short_desc, in the record's field order
+
+// The record's text field for `column`; null for the genres, which are
+// joined by commas.
+template <typename Program>
+auto TextField(Program& p, int column) -> decltype(&p.strTitle) {
+  decltype(&p.strTitle) const fields[kTextColumns] = {&p.str_channel_name, &p.str_channel_number, &p.str_program_id, &p.str_lang,
+                                             &p.str_starttime,    &p.strTitle,           &p.str_cert_flag,  nullptr,
+                                             &p.str_poster_url,   &p.str_short_desc};
+  return fields[column];
+}
 
 void Check(sqlite3* db, int code, const std::string& what) {
   if (code != SQLITE_OK && code != SQLITE_DONE && code != SQLITE_ROW) {
@@ -36,26 +49,39 @@ int64_t Scalar(sqlite3* db, const char* sql) {
   return value;
 }
 
-// The record without the times, which live in their own columns.
-std::string RecordText(const FCRemoteProgram& program) {
-  Json::Value record;
-  FCRemoteProgram::ToJson(program, record);
-  record.removeMember("utc start time");
-  record.removeMember("duration");
-  record.removeMember("EndTime");
-  Json::StreamWriterBuilder compact;
-  compact["indentation"] = "";
-  return Json::writeString(compact, record);
+std::string Joined(const std::vector<std::string>& genres) {
+  std::string text;
+  for (const std::string& genre : genres) text += (text.empty() ? "" : ",") + genre;
+  return text;
 }
 
+std::vector<std::string> Split(const std::string& text) {
+  std::vector<std::string> parts;
+  for (size_t at = 0; !text.empty() && at <= text.size();) {
+    const size_t comma = std::min(text.find(',', at), text.size());
+    parts.push_back(text.substr(at, comma - at));
+    at = comma + 1;
+  }
+  return parts;
+}
+
+const int kFirstText = 4;  // columns: source, start, stop, activity, then the texts
+
 FCRemoteProgram RecordOf(sqlite3_stmt* row) {
-  Json::Value record;
-  Json::Reader().parse(Text(row, 2), record);
   FCRemoteProgram program;
-  FCRemoteProgram::FromJson(record, program);
-  program.utc_starttime = static_cast<uint32_t>(sqlite3_column_int64(row, 0));
-  program.EndTime = static_cast<uint32_t>(sqlite3_column_int64(row, 1));
+  program.str_program_source_id = Text(row, 0);
+  program.utc_starttime = static_cast<uint32_t>(sqlite3_column_int64(row, 1));
+  program.EndTime = static_cast<uint32_t>(sqlite3_column_int64(row, 2));
   program.duration = static_cast<int>(program.EndTime - program.utc_starttime);
+  program.activityID = sqlite3_column_int(row, 3);
+  for (int column = 0; column < kTextColumns; ++column) {
+    if (std::string* field = TextField(program, column)) {
+      *field = Text(row, kFirstText + column);
+    } else {
+      program.genre_array = Split(Text(row, kFirstText + column));
+    }
+  }
+  program.desc = program.str_short_desc;
   return program;
 }
 
@@ -63,7 +89,7 @@ FCRemoteProgram RecordOf(sqlite3_stmt* row) {
 
 ListedGuide::ListedGuide(sqlite3* db, int64_t longest) : db_(db), longest_(longest) {
   between_ = Prepare(db_,
-                     "SELECT start, stop, record FROM programme WHERE source = ?1 AND start > ?2 - ?4 AND start < ?3"
+                     "SELECT * FROM programme WHERE source = ?1 AND start > ?2 - ?4 AND start < ?3"
                      " AND stop > ?2 ORDER BY start");
   sqlite3_stmt* sources = Prepare(db_, "SELECT DISTINCT source FROM programme");
   while (sqlite3_step(sources) == SQLITE_ROW) sources_.insert(Text(sources, 0));
@@ -95,7 +121,7 @@ ListedGuideBuilder::ListedGuideBuilder(const std::string& path) : path_(path), b
   Exec("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;");
   Exec(kSchema);
   Exec("BEGIN");
-  insert_ = Prepare(db_, "INSERT OR REPLACE INTO programme VALUES(?1, ?2, ?3, ?4)");
+  insert_ = Prepare(db_, "INSERT OR REPLACE INTO programme VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
 }
 
 ListedGuideBuilder::~ListedGuideBuilder() {
@@ -108,7 +134,7 @@ ListedGuideBuilder::~ListedGuideBuilder() {
 void ListedGuideBuilder::Exec(const char* sql) { Check(db_, sqlite3_exec(db_, sql, nullptr, nullptr, nullptr), building_); }
 
 void ListedGuideBuilder::Add(const FCRemoteProgram& program, bool openEnded) {
-  const std::string record = RecordText(program);
+  const std::string genres = Joined(program.genre_array);
   sqlite3_bind_text(insert_, 1, program.str_program_source_id.data(), static_cast<int>(program.str_program_source_id.size()),
                     SQLITE_STATIC);
   sqlite3_bind_int64(insert_, 2, program.utc_starttime);
@@ -117,7 +143,12 @@ void ListedGuideBuilder::Add(const FCRemoteProgram& program, bool openEnded) {
   } else {
     sqlite3_bind_int64(insert_, 3, program.EndTime);
   }
-  sqlite3_bind_text(insert_, 4, record.data(), static_cast<int>(record.size()), SQLITE_STATIC);
+  sqlite3_bind_int(insert_, 4, program.activityID);
+  for (int column = 0; column < kTextColumns; ++column) {
+    const std::string* field = TextField(program, column);
+    if (field == nullptr) field = &genres;
+    sqlite3_bind_text(insert_, kFirstText + 1 + column, field->data(), static_cast<int>(field->size()), SQLITE_STATIC);
+  }
   Check(db_, sqlite3_step(insert_), building_);
   sqlite3_reset(insert_);
 }
