@@ -92,7 +92,7 @@ std::string WarningOf(const std::string& path, const Skips& skips) {
   if (skips.Total() == 0) return "";
   return path + ": skipped " + std::to_string(skips.Total()) + " programmes (" + std::to_string(skips.unknownChannel) +
          " of no known channel, " + std::to_string(skips.badTime) + " with a time that does not parse, " +
-         std::to_string(skips.noEnd) + " without an end)";
+         std::to_string(skips.noEnd) + " without an end after their start)";
 }
 
 void UseXmltvGuide(XmltvGuide& guide, Catalogue& catalogue) {

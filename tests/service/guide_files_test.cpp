@@ -186,7 +186,7 @@ TEST_F(GuideFiles, HostileFilesAreRefusedQuicklyNamingFileLineAndColumn) {
 TEST_F(GuideFiles, SkippedProgrammesAreCountedInOneWarning) {
   EXPECT_EQ(Load(dir_, kData + "/guide.xml").second,
             "zunde-service: warning: " + kData +
-                "/guide.xml: skipped 2 programmes (1 of no known channel, 1 with a time that does not parse, 0 without an end)\n");
+                "/guide.xml: skipped 2 programmes (1 of no known channel, 1 with a time that does not parse, 0 without an end after their start)\n");
 }
 
 }  // namespace
