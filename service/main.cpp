@@ -3,7 +3,8 @@
 //
 // One GLib main loop does everything: it owns the name, answers calls, sends
 // events and holds back slow answers. SIGTERM and SIGINT end the loop; the
-// held-back answers are then sent and the store closed.
+// held-back answers are then sent and the store closed. SIGHUP reloads the
+// catalogue.
 #include <glib-unix.h>
 
 #include <cerrno>
@@ -15,8 +16,8 @@
 
 #include "bus_service.h"
 #include "catalogue.h"
-#include "catalogue_source.h"
-#include "FCMarshal.h"
+#include "catalogue_sources.h"
+#include "environment_state.h"
 #include "options.h"
 
 namespace {
@@ -38,37 +39,26 @@ int WriteDefaultCatalogue(const Options& options) {
   return 1;
 }
 
-gboolean Quit(gpointer loop) {
-  g_main_loop_quit(static_cast<GMainLoop*>(loop));
+// The dispatcher keeps a reference to the catalogue, which stays valid:
+// the reload replaces its contents between two requests, on this loop, and
+// the dispatcher is told so that it forgets the answers it kept.
+struct Reload {
+  const Options& options;
+  const Store& store;  // whose language picks a guide file's texts
+  Catalogue& catalogue;
+  Dispatcher& dispatcher;
+};
+
+gboolean OnHangup(gpointer reload) {
+  auto* r = static_cast<Reload*>(reload);
+  if (ReloadCatalogue(r->options, LoadEnvironment(r->store).language, r->catalogue)) {
+    r->dispatcher.ReplaceCatalogue(r->catalogue);
+  }
   return G_SOURCE_CONTINUE;
 }
 
-// The language the user set, which picks a guide file's titles.
-std::string LanguageOf(const Store& store) {
-  std::string country;
-  std::string language = "en";
-  Json::Value environment = store.Get("environment");
-  if (!environment.isNull()) FCMarshal::JsonToCountryAndLang(environment, country, language);
-  return language;
-}
-
-struct Reload {
-  const Options& options;
-  const Store& store;
-  Catalogue& catalogue;
-};
-
-// Requests are answered on this same loop, so the catalogue is swapped
-// between two of them; a catalogue that fails to load leaves the running
-// one as it was.
-gboolean ReloadCatalogue(gpointer data) {
-  Reload& reload = *static_cast<Reload*>(data);
-  if (std::unique_ptr<Catalogue> fresh = BuildCatalogue(reload.options, LanguageOf(reload.store))) {
-    reload.catalogue = std::move(*fresh);
-    std::fprintf(stderr, "zunde-service: reloaded the catalogue\n");
-  } else {
-    std::fprintf(stderr, "zunde-service: reload refused; the running catalogue stays\n");
-  }
+gboolean Quit(gpointer loop) {
+  g_main_loop_quit(static_cast<GMainLoop*>(loop));
   return G_SOURCE_CONTINUE;
 }
 
@@ -86,10 +76,9 @@ int Serve(const Options& options) {
     std::fprintf(stderr, "zunde-service: the store is read-only (%s): changes will be refused\n",
                  store->ReadOnlyReason().c_str());
   }
-  const std::unique_ptr<Catalogue> catalogue = BuildCatalogue(options, LanguageOf(*store));
+  const std::unique_ptr<Catalogue> catalogue = LoadCatalogueSources(options, LoadEnvironment(*store).language);
   if (!catalogue) return 1;
   Dispatcher dispatcher(*store, *catalogue, options.limits);
-  Reload reload{options, *store, *catalogue};
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   int status = 0;
   {
@@ -107,7 +96,8 @@ int Serve(const Options& options) {
         });
     g_unix_signal_add(SIGTERM, Quit, loop);
     g_unix_signal_add(SIGINT, Quit, loop);
-    g_unix_signal_add(SIGHUP, ReloadCatalogue, &reload);
+    Reload reload{options, *store, *catalogue, dispatcher};
+    g_unix_signal_add(SIGHUP, OnHangup, &reload);
     if (service.Start()) {
       g_main_loop_run(loop);
     } else {

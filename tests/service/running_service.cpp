@@ -38,15 +38,15 @@ int RunningService::Stop() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
+void RunningService::Signal(int signal) {
+  if (servicePid > 0) kill(servicePid, signal);
+}
+
 void RunningService::Kill() {
   if (servicePid <= 0) return;
   kill(servicePid, SIGKILL);
   waitpid(servicePid, nullptr, 0);
   servicePid = -1;
-}
-
-void RunningService::Signal(int signal) {
-  if (servicePid > 0) kill(servicePid, signal);
 }
 
 std::pair<int, std::string> RunningService::Run(const std::string& args, const std::string& env) {

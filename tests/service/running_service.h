@@ -16,7 +16,7 @@ class RunningService {
   static int Stop();
   // SIGKILL, as a crash would.
   static void Kill();
-  // Sends `signal` to the running service.
+  // Sends `signal` and leaves it running.
   static void Signal(int signal);
   // Runs the service with `args` (and the shell's `env` assignments) to its
   // end: the exit status and what it wrote to standard error.
