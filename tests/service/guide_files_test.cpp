@@ -11,7 +11,9 @@
 
 #include "FCElementData.h"
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
+#include "FCRFNetworkChannelTable.h"
 #include "FCVirtualProgramData.h"
+#include "RFNetworkChannelManager_Proxy.h"
 #include "FCVirtualChannels_Proxy.h"
 #include "running_service.h"
 
@@ -21,6 +23,7 @@ using zunde::testing::RunningService;
 
 FCRemoteContentOnTV_MSO_Proxy mso;
 FCVirtualChannels_Proxy vc;
+FCRFNetworkChannelManager_Proxy rf;
 const auto A0 = static_cast<eRemoteContentActivity>(0);
 const std::string kData = ZUNDE_GUIDE_DATA;
 const int kMorning = 1893484800;  // 2030-01-01 08:00 UTC, six hours before the files' programmes end
@@ -64,6 +67,18 @@ unsigned long long Playlist(const std::string& service) {
   unsigned long long id = 0;
   vc.GetServiceIdFromOnTVProviderAndService("m3u", service, id);
   return id;
+}
+
+// Which of the playlist's channels the broadcast navigation lists under `genre`.
+std::string Navigation(const std::string& genre) {
+  FCRFNetworkChannelTable table;
+  std::string text = std::to_string(rf.GetRFNetworkChannelMapByGenre(genre, table));
+  for (unsigned long long id : table.GetRFNetworkChannelList()) {
+    for (const char* service : {"uno.example", "dyo.example", "No Guide"}) {
+      if (id == Playlist(service)) text += std::string(" ") + service;
+    }
+  }
+  return text;
 }
 
 std::string Virtual(const std::string& service) {
@@ -116,6 +131,8 @@ TEST_F(GuideFiles, TheGuideAndPlaylistReadBackAsTheMappingSays) {
       {"tvg-name wins over the #EXTINF title", [] { return Virtual("dyo.example"); },
        "1 2|Dyo HD| [Ειδήσεις|http://s.example/dyo.m3u8]"},
       {"an entry without tvg-id is found by its name", [] { return std::to_string(Playlist("No Guide") != 0); }, "1"},
+      {"group-title gives the navigation genre", [] { return Navigation("X1"); }, "1 uno.example"},
+      {"#EXTGRP gives it where group-title is missing", [] { return Navigation("X4"); }, "1 dyo.example"},
   };
   for (const Row& row : rows) EXPECT_EQ(row.read(), row.expected) << row.name;
   const unsigned long long id = Playlist("uno.example");
