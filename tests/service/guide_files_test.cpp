@@ -141,13 +141,14 @@ TEST_F(GuideFiles, TheGuideAndPlaylistReadBackAsTheMappingSays) {
   EXPECT_EQ(Playlist("uno.example"), id) << "service ids are stable for the same playlist";
 }
 
-TEST_F(GuideFiles, ALatin1FileReadsAsItsDeclarationSaysAndSighupReloadsIt) {
-  RunningService::Start(dir_, 3000, {"--xmltv", kData + "/guide.xml"});
+TEST_F(GuideFiles, GzippedLatin1AndHeaderlessFilesReadAndSighupReloadsThem) {
   std::system(("cp " + kData + "/latin1.xml " + dir_ + "/live.xml && gzip " + dir_ + "/live.xml").c_str());
-  // A reload that fails keeps what is running; one that works replaces it.
-  RunningService::Stop();
-  RunningService::Start(dir_, 3000, {"--xmltv", dir_ + "/live.xml.gz"});
+  std::ofstream(dir_ + "/live.m3u") << "#EXTINF:-1 tvg-id=\"cafe\",Café\nhttp://s.example/cafe\n";
+  std::system(("gzip " + dir_ + "/live.m3u").c_str());
+  RunningService::Start(dir_, 3000, {"--xmltv", dir_ + "/live.xml.gz", "--m3u", dir_ + "/live.m3u.gz"});
   EXPECT_EQ(Lineup(), "1 [1|1|0|Café Télé||cafe]");
+  EXPECT_EQ(Virtual("cafe"), "1 1|Café| [Déjà vu|http://s.example/cafe]");
+  // A reload that fails keeps what is running; one that works replaces it.
   std::ofstream(dir_ + "/broken.xml") << "<tv><channel id='a'>";
   std::system(("gzip -c " + dir_ + "/broken.xml > " + dir_ + "/live.xml.gz").c_str());
   RunningService::Signal(SIGHUP);
