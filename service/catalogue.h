@@ -6,7 +6,9 @@
 // genre sets, so a programme is computed from the channel and the time, and
 // a 5,000-channel line-up costs no start-up time. The guide reaches from a
 // day before the service started to a week after it (further for what an
-// activity loaded more of).
+// activity loaded more of). Only a guide file's programmes are stored, in
+// an SQLite file of their own (guide_files/listed_guide.h), and shown as
+// listed in place of the computed ones.
 #ifndef ZUNDE_SERVICE_CATALOGUE_H
 #define ZUNDE_SERVICE_CATALOGUE_H
 
