@@ -85,9 +85,11 @@ const Schedule& Catalogue::ScheduleOf(const std::string& genre) const {
   return schedules.front();
 }
 
+bool Catalogue::Lists(const std::string& key) const { return listed && listed->Has(key); }
+
 std::vector<Slot> Catalogue::SlotsBetween(const std::string& key, const std::string& genre, time_t from, time_t to,
                                           time_t end) const {
-  if (listed && listed->Has(key)) return ListedSlots(*listed, key, from, to);
+  if (Lists(key)) return ListedSlots(*listed, key, from, to);
   from = std::max(from, DayStart(WindowStart()));
   to = std::min(to, end);
   std::vector<Slot> slots;

@@ -109,6 +109,8 @@ struct Catalogue {
   const BroadcastChannel* BroadcastBySource(const std::string& sourceId) const;
   const VirtualChannel* VirtualById(unsigned long long serviceId) const;
   const Schedule& ScheduleOf(const std::string& genre) const;
+  // Whether a guide file has the channel `key`.
+  bool Lists(const std::string& key) const;
 
   // The guide window in whole UTC days: from the day before `now` to the
   // end of the seventh day after it.

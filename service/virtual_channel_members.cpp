@@ -71,13 +71,19 @@ FCVirtualProgramData ProgramOf(const VirtualChannel& channel, const Slot& slot) 
   return program;
 }
 
+// A playlist's channel shows only what a guide file lists for it: made-up
+// programmes on a real stream would mislead.
+std::vector<Slot> SlotsOf(Request& request, const VirtualChannel& channel, time_t from, time_t to) {
+  if (!channel.streamUrl.empty() && !request.catalogue.Lists(channel.guideKey)) return {};
+  return request.catalogue.SlotsBetween(ScheduleKeyOf(channel), channel.genre, from, to, request.catalogue.WindowEnd());
+}
+
 Slot SlotAt(Request& request, const VirtualChannel& channel, time_t time) {
-  Slot slot;
-  if (!request.catalogue.SlotAt(ScheduleKeyOf(channel), channel.genre, time, request.catalogue.WindowEnd(),
-                                slot)) {
+  std::vector<Slot> slots = SlotsOf(request, channel, time, time + 1);
+  if (slots.empty()) {
     throw BadRequest("no programme on virtual channel " + std::to_string(channel.serviceId) + " at " + std::to_string(time));
   }
-  return slot;
+  return slots.front();
 }
 
 void ReplyProgram(const FCVirtualProgramData& program, Json::Value& reply) {
@@ -101,9 +107,7 @@ void ProgramList(Request& request, Json::Value& reply) {
   FCMarshal::JsonToStartTime(request.body, start);
   FCMarshal::JsonToDuration(request.body, duration);
   std::map<unsigned int, FCVirtualProgramData> programs;
-  for (const Slot& slot : request.catalogue.SlotsBetween(ScheduleKeyOf(channel), channel.genre, start,
-                                                         static_cast<time_t>(start) + duration,
-                                                         request.catalogue.WindowEnd())) {
+  for (const Slot& slot : SlotsOf(request, channel, start, static_cast<time_t>(start) + duration)) {
     programs[slot.start] = ProgramOf(channel, slot);
   }
   FCMarshal::VirtualProgramMapToJson(programs, reply);

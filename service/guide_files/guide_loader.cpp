@@ -40,6 +40,7 @@ XmltvGuide ReadXmltvGuide(const GuideFiles& files, GenreIds& genres, Skips& skip
   handlers.channel = [&](const XmltvChannel& channel) {
     if (positions.count(channel.id) != 0) return;
     positions[channel.id] = guide.channels.size();
+    builder.AddChannel(channel.id);
     guide.channels.push_back({ToRemoteChannel(channel, static_cast<int>(guide.channels.size()) + 1, kXmltvActivity), true});
   };
   handlers.programme = [&](const XmltvProgramme& programme) {

@@ -87,13 +87,11 @@ FCRemoteProgram RecordOf(sqlite3_stmt* row) {
 
 }  // namespace
 
-ListedGuide::ListedGuide(sqlite3* db, int64_t longest) : db_(db), longest_(longest) {
+ListedGuide::ListedGuide(sqlite3* db, int64_t longest, std::set<std::string> sources)
+    : db_(db), longest_(longest), sources_(std::move(sources)) {
   between_ = Prepare(db_,
                      "SELECT * FROM programme WHERE source = ?1 AND start > ?2 - ?4 AND start < ?3"
                      " AND stop > ?2 ORDER BY start");
-  sqlite3_stmt* sources = Prepare(db_, "SELECT DISTINCT source FROM programme");
-  while (sqlite3_step(sources) == SQLITE_ROW) sources_.insert(Text(sources, 0));
-  sqlite3_finalize(sources);
   size_ = static_cast<size_t>(Scalar(db_, "SELECT count(*) FROM programme"));
 }
 
@@ -167,7 +165,7 @@ std::unique_ptr<ListedGuide> ListedGuideBuilder::Finish(int& dropped) {
   if (std::rename(building_.c_str(), path_.c_str()) != 0) throw std::runtime_error("cannot put " + path_ + " in place");
   sqlite3* db = nullptr;
   Check(nullptr, sqlite3_open_v2(path_.c_str(), &db, SQLITE_OPEN_READONLY, nullptr), "cannot open " + path_);
-  return std::unique_ptr<ListedGuide>(new ListedGuide(db, longest));
+  return std::unique_ptr<ListedGuide>(new ListedGuide(db, longest, std::move(sources_)));
 }
 
 }  // namespace zunde::service::guide

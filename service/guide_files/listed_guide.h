@@ -24,7 +24,8 @@ class ListedGuide {
   ListedGuide(const ListedGuide&) = delete;
   ListedGuide& operator=(const ListedGuide&) = delete;
 
-  // Whether the guide lists programmes of `sourceId`.
+  // Whether `sourceId` is a channel of the guide file, with programmes or
+  // without.
   bool Has(const std::string& sourceId) const { return sources_.count(sourceId) != 0; }
   // The programmes of `sourceId` that overlap [from, to), by start time.
   std::vector<FCRemoteProgram> Between(const std::string& sourceId, int64_t from, int64_t to) const;
@@ -32,7 +33,7 @@ class ListedGuide {
 
  private:
   friend class ListedGuideBuilder;
-  ListedGuide(sqlite3* db, int64_t longest);
+  ListedGuide(sqlite3* db, int64_t longest, std::set<std::string> sources);
 
   sqlite3* db_;
   sqlite3_stmt* between_ = nullptr;
@@ -51,6 +52,8 @@ class ListedGuideBuilder {
   ListedGuideBuilder(const ListedGuideBuilder&) = delete;
   ListedGuideBuilder& operator=(const ListedGuideBuilder&) = delete;
 
+  // A channel of the file, which shows only the programmes it lists.
+  void AddChannel(const std::string& sourceId) { sources_.insert(sourceId); }
   // `program` with its start and, when `openEnded`, no end yet: it lasts
   // until the next programme of its channel. A later programme of the same
   // channel and start replaces it.
@@ -66,6 +69,7 @@ class ListedGuideBuilder {
   std::string building_;
   sqlite3* db_ = nullptr;
   sqlite3_stmt* insert_ = nullptr;
+  std::set<std::string> sources_;
 };
 
 }  // namespace zunde::service::guide

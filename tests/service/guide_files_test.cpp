@@ -5,6 +5,7 @@
 #include <stdlib.h>
 
 #include <chrono>
+#include <ctime>
 #include <fstream>
 #include <functional>
 #include <thread>
@@ -38,10 +39,10 @@ std::string Lineup() {
   return text;
 }
 
-std::string Guide(std::vector<std::string> sources) {
+std::string Guide(std::vector<std::string> sources, int from = kMorning) {
   std::map<std::string, std::vector<FCRemoteProgram>> map;
   FCFilterCriteria all;
-  std::string text = std::to_string(mso.GetProgramMap(A0, sources, kMorning, 6 * 3600, all, map));
+  std::string text = std::to_string(mso.GetProgramMap(A0, sources, from, 6 * 3600, all, map));
   for (const auto& [source, programs] : map) {
     for (const FCRemoteProgram& p : programs) {
       std::string genres;
@@ -131,6 +132,8 @@ TEST_F(GuideFiles, TheGuideAndPlaylistReadBackAsTheMappingSays) {
       {"tvg-name wins over the #EXTINF title", [] { return Virtual("dyo.example"); },
        "1 2|Dyo HD| [Ειδήσεις|http://s.example/dyo.m3u8]"},
       {"an entry without tvg-id is found by its name", [] { return std::to_string(Playlist("No Guide") != 0); }, "1"},
+      {"a guide channel shows only what the file lists", [] { return Guide({"san.example"}, std::time(nullptr)); }, "1"},
+      {"a playlist entry without a guide shows no programmes", [] { return Virtual("No Guide"); }, "1 3|No Guide|"},
       {"group-title gives the navigation genre", [] { return Navigation("X1"); }, "1 uno.example"},
       {"#EXTGRP gives it where group-title is missing", [] { return Navigation("X4"); }, "1 dyo.example"},
   };
