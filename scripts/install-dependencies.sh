@@ -10,12 +10,13 @@ packages=(
   build-essential cmake pkg-config
   libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev libsqlite3-dev
   libcli11-dev
+  libxml2-dev zlib1g-dev
   dbus-daemon
   googletest libgtest-dev libgmock-dev
 )
 case "${1:---all}" in
   --build) ;;
-  --all) packages+=(libbenchmark-dev abigail-tools clang libclang-rt-dev) ;;
+  --all) packages+=(libbenchmark-dev abigail-tools clang libclang-rt-dev libxmltv-perl libxml2-utils) ;;
   *) echo "usage: $0 [--build|--all]" >&2; exit 2 ;;
 esac
 
