@@ -111,13 +111,13 @@ int Guide(const GuideOptions& options) {
   const auto activity = static_cast<eRemoteContentActivity>(options.activity);
   FCRemoteContent_MSOAPI* catalogue = FCAPI::GetRemoteContentMSOAPI();
   std::vector<FCRemoteChannel> channels;
-  if (!catalogue->GetFullChannelList(activity, channels)) return ReportFailure("guide: GetFullChannelList");
+  if (!catalogue->GetFullChannelList(activity, channels)) return ReportFailure("guide");
   std::vector<std::string> ids;
   for (const FCRemoteChannel& channel : channels) ids.push_back(channel.str_program_source_id);
   FCFilterCriteria filter;
   std::map<std::string, std::vector<FCRemoteProgram> > programs;
   if (!catalogue->GetProgramMap(activity, ids, static_cast<int>(start), slots * kSlotSeconds, filter, programs))
-    return ReportFailure("guide: GetProgramMap");
+    return ReportFailure("guide");
   std::vector<Row> rows;
   for (const FCRemoteChannel& channel : channels) {
     rows.push_back({channel, programs[channel.str_program_source_id]});

@@ -1,6 +1,7 @@
 // zunde-cli: the service's API from the command line, for people and scripts.
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 #include "command_runner.h"
 #include "direct_commands.h"
@@ -40,6 +41,7 @@ int main(int argc, char** argv) {
   zcli::AddReset(app, action);
   zcli::AddMonitor(app, action);
   zcli::AddGuide(app, action);
+  zcli::AddEmit(app, action);
 
   try {
     app.parse(argc, argv);
@@ -48,5 +50,12 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "zunde-cli: %s (see zunde-cli --help)\n", error.what());
     return zcli::kUsage;
   }
-  return action ? action() : zcli::kUsage;
+  if (!action) return zcli::kUsage;
+  // A reply the library could not read throws through the API to its caller.
+  try {
+    return action();
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "zunde-cli: the service's reply could not be read: %s\n", error.what());
+    return zcli::kRefused;
+  }
 }

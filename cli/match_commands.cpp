@@ -15,7 +15,7 @@ const Arg kAct{"ACTIVITY", Kind::Int, "remote content activity"};
 Family MatchFamily() {
   return {"match", "Match broadcast service ids and catalogue channels", {
     {"channel", "The catalogue channel of a broadcast service id", "zunde-cli match channel 0 4097",
-     {kAct, {"SERVICE_ID", Kind::Unsigned, "broadcast service id"}},
+     {kAct, {"SERVICE_ID", Kind::Unsigned64, "broadcast service id"}},
      [](const Args& a, Json::Value& out) {
        unsigned long long service = a.u(1);
        FCRemoteChannel channel;
@@ -25,7 +25,7 @@ Family MatchFamily() {
      }},
     {"service-id", "The broadcast service id of a catalogue channel",
      "zunde-cli match service-id 0 '{\"str_program_source_id\": \"src-1\"}'",
-     {kAct, {"CHANNEL", Kind::Json, "the channel's JSON form"}},
+     {kAct, {"CHANNEL", Kind::Json, "the channel's JSON form", ShapeOf<FCRemoteChannel>()}},
      [](const Args& a, Json::Value& out) {
        FCRemoteChannel channel = a.rec<FCRemoteChannel>(1);
        unsigned long long service = 0;

@@ -10,8 +10,8 @@ using Api = FCRFNetworkChannelAPI;
 Api* Rf() { return FCAPI::GetRFNetworkChannelAPI(); }
 
 const Arg kGenre{"GENRE", Kind::Text, "genre"};
-const Arg kService{"SERVICE_ID", Kind::Unsigned, "broadcast service id"};
-const Arg kProgram{"PROGRAM", Kind::Json, "a programme's JSON form"};
+const Arg kService{"SERVICE_ID", Kind::Unsigned64, "broadcast service id"};
+const Arg kProgram{"PROGRAM", Kind::Json, "a programme's JSON form", ShapeOf<FCRemoteProgram>()};
 const std::vector<std::string> kProgramColumns = {"key", "program source id", "utc start time", "duration", "title"};
 
 // Channel up or down within a genre.
@@ -36,6 +36,13 @@ Command Beside(const char* name, const char* help,
             out = J(found);
             return ok;
           }};
+}
+
+Json::Value GenresShape() {
+  std::vector<FCRepGenreInfo> genres(1);
+  Json::Value shape(Json::objectValue);
+  FCMarshal::RepGenreListToJson(genres, shape);
+  return shape;
 }
 
 }  // namespace
@@ -73,7 +80,7 @@ Family BroadcastFamily() {
     {"count", "The number of channels of a genre (status 1 when none)", "zunde-cli rf count news", {kGenre},
      [](const Args& a, Json::Value& out) { return (out["count"] = Rf()->GetRFNetworkChannelCountByGenre(a.s(0))).asInt() > 0; }},
     {"counts", "The number of channels of each genre", "zunde-cli rf counts '{\"out_array_rep_genre\": [{\"str_id\": \"news\"}]}'",
-     {{"GENRES", Kind::Json, "{\"out_array_rep_genre\": [genres]}"}},
+     {{"GENRES", Kind::Json, "{\"out_array_rep_genre\": [genres]}", GenresShape()}},
      [](const Args& a, Json::Value& out) {
        std::vector<FCRepGenreInfo> genres;
        Json::Value value = a.json(0);
@@ -93,8 +100,8 @@ Family BroadcastFamily() {
      }},
     Beside("next", "The programme after the one given", &Api::GetNextMetaProgram),
     Beside("prev", "The programme before the one given", &Api::GetPrevMetaProgram),
-    {"programs", "The meta programmes of a service in a time window", "zunde-cli rf programs 4097 1767225600 7200",
-     {kService, {"START", Kind::Unsigned, "seconds since the epoch"}, {"DURATION", Kind::Int, "seconds"}},
+    {"programs", "The meta programmes of a service in a time window", "zunde-cli rf programs 4097 now 7200",
+     {kService, {"START", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"}, {"DURATION", Kind::Int, "seconds"}},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        std::map<unsigned int, FCRemoteProgram> programs;
@@ -102,10 +109,10 @@ Family BroadcastFamily() {
        FCMarshal::MetaProgramMapToJson(programs, out);
        return ok;
      }, kProgramColumns},
-    {"has-programs", "Whether any meta programme exists (status 1 when not)", "zunde-cli rf has-programs", {},
-     [](const Args&, Json::Value& out) { return (out["exists"] = Rf()->CheckMetaProgramExist()).asBool(); }},
-    {"reset", "Reset the broadcast channel state", "zunde-cli rf reset", {},
-     [](const Args&, Json::Value&) { return Rf()->Reset(); }},
+    YesNo({"has-programs", "Whether any meta programme exists (status 1 when not)", "zunde-cli rf has-programs", {},
+           [](const Args&, Json::Value& out) { return (out["exists"] = Rf()->CheckMetaProgramExist()).asBool(); }}),
+    Local({"reset", "Reset the broadcast channel state", "zunde-cli rf reset", {},
+           [](const Args&, Json::Value&) { return Rf()->Reset(); }}),
   }};
 }
 

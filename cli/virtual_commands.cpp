@@ -9,8 +9,9 @@ namespace {
 using Api = FCVirtualChannelsAPI;
 Api* Vc() { return FCAPI::GetVirtualChannelsAPI(); }
 
-const Arg kService{"SERVICE_ID", Kind::Unsigned, "virtual channel service id"};
-const Arg kId{"PROGRAM_ID", Kind::Json, "a programme id's JSON form, as `virtual present` prints it"};
+const Arg kService{"SERVICE_ID", Kind::Unsigned64, "virtual channel service id"};
+const Arg kId{"PROGRAM_ID", Kind::Json, "a programme id's JSON form, as `virtual present` prints it",
+              ShapeOf<FCVirtualProgramId>()};
 const char* const kIdSample = " '{\"program_id\": {\"TCServiceId\": \"8193\", \"event_id\": \"e1\"}}'";
 
 // A picture of a programme: its address.
@@ -28,8 +29,8 @@ Command Picture(const char* name, const char* help, bool (Api::*method)(FCVirtua
 
 Family VirtualFamily() {
   return {"virtual", "Virtual (internet-delivered) channels: programmes, pictures, on-demand slots", {
-    {"programs", "The programmes of a channel in a time window", "zunde-cli virtual programs 8193 1767225600 7200",
-     {kService, {"START", Kind::Unsigned, "seconds since the epoch"}, {"DURATION", Kind::Unsigned, "seconds"}},
+    {"programs", "The programmes of a channel in a time window", "zunde-cli virtual programs 8193 now 7200",
+     {kService, {"START", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"}, {"DURATION", Kind::Unsigned, "seconds"}},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        std::map<unsigned int, FCVirtualProgramData> programs;
@@ -83,7 +84,7 @@ Family VirtualFamily() {
      }},
     {"set-on-demand", "Put a programme in a channel's on-demand slot",
      "zunde-cli virtual set-on-demand 8193 '{\"id\": \"vod-1\", \"title\": \"Film\"}'",
-     {kService, {"PROGRAM", Kind::Json, "the programme's JSON form"}},
+     {kService, {"PROGRAM", Kind::Json, "the programme's JSON form", ShapeOf<FCVirtualProgramData>()}},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        FCVirtualProgramId id;
@@ -131,13 +132,15 @@ Family VirtualFamily() {
        std::string event = a.s(1), category = a.s(2), desc = a.s(3);
        return Vc()->SendLogKPI(static_cast<Api::EKPIType>(a.i(0)), event, category, desc);
      }},
-    {"viewing-agreement", "Whether the viewing agreement is given (status 1 when not)",
-     "zunde-cli virtual viewing-agreement", {},
-     [](const Args&, Json::Value& out) { return (out["agreed"] = Vc()->GetViewingAgreement()).asBool(); }},
-    {"program-info", "Whether programme information is available (status 1 when not)",
-     "zunde-cli virtual program-info", {},
-     [](const Args&, Json::Value& out) { return (out["available"] = Vc()->KivoProgramInfoIsAvailable()).asBool(); }},
-    {"reset", "Reset the virtual channel state", "zunde-cli virtual reset", {},
+    YesNo({"viewing-agreement", "Whether the viewing agreement is given (status 1 when not)",
+           "zunde-cli virtual viewing-agreement", {},
+           [](const Args&, Json::Value& out) { return (out["agreed"] = Vc()->GetViewingAgreement()).asBool(); }}),
+    YesNo({"program-info", "Whether programme information is available (status 1 when not)",
+           "zunde-cli virtual program-info", {},
+           [](const Args&, Json::Value& out) {
+             return (out["available"] = Vc()->KivoProgramInfoIsAvailable()).asBool();
+           }}),
+    {"reset", "Reset the whole service to its defaults (every family, not only virtual channels)", "zunde-cli virtual reset", {},
      [](const Args&, Json::Value&) { return Vc()->Reset(); }},
   }};
 }
