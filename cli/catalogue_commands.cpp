@@ -162,7 +162,7 @@ Family CatalogueFamily() {
        FCMarshal::FutureTimeLineToJson(timeline, out);
        return ok;
      }},
-    {"program", "The programme of a source id at a time", "zunde-cli catalogue program 0 src-1 now",
+    {"program", "The programme of a source id at a time", "zunde-cli catalogue program 0 10001 now",
      {kAct, kSource, kTime},
      [](const Args& a, Json::Value& out) {
        FCRemoteProgram program;
@@ -170,14 +170,14 @@ Family CatalogueFamily() {
        out = J(program);
        return ok;
      }},
-    {"channel", "The channel of a source id", "zunde-cli catalogue channel 0 src-1", {kAct, kSource},
+    {"channel", "The channel of a source id", "zunde-cli catalogue channel 0 10001", {kAct, kSource},
      [](const Args& a, Json::Value& out) {
        FCRemoteChannel channel;
        const bool ok = Mso()->GetFCRemoteChannelByProgramSourceID(Act(a), a.s(1), channel);
        out = J(channel);
        return ok;
      }},
-    {"search-key-rf", "The search key of a broadcast service at a time", "zunde-cli catalogue search-key-rf 0 4097 now",
+    {"search-key-rf", "The search key of a broadcast service at a time", "zunde-cli catalogue search-key-rf 0 38293928476773 now",
      {kAct, {"SERVICE_ID", Kind::Unsigned64, "broadcast service id"}, kTime},
      [](const Args& a, Json::Value& out) {
        unsigned long long service = a.u(1);

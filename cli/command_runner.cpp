@@ -64,16 +64,28 @@ void AddFamily(CLI::App& app, const Family& family, Action& action) {
   group->require_subcommand(1);
   for (const Command& command : family.commands) {
     CLI::App* sub = group->add_subcommand(command.name, command.help);
-    sub->footer("Example: " + command.example);
+    if (!command.example.empty()) sub->footer("Example: " + command.example);
     auto values = std::make_shared<std::vector<std::string>>(command.args.size());
     for (size_t n = 0; n < command.args.size(); ++n) {
       const Arg& arg = command.args[n];
-      sub->add_option(arg.name, (*values)[n], arg.help)->required()->check(KindCheck(arg));
+      sub->add_option(arg.name, (*values)[n], arg.help)->required()->transform(KindCheck(arg));
     }
     sub->callback([&family, &command, values, &action] {
       action = [&family, &command, values] { return Run(family, command, *values); };
     });
   }
+}
+
+int PrintExamples(const CLI::App& app) {
+  std::istringstream footer(app.get_footer());
+  for (std::string line; std::getline(footer, line);) {
+    line.erase(0, line.find_first_not_of(' '));
+    const bool example = line.rfind("Example: ", 0) == 0;
+    if (example) line.erase(0, 9);
+    if (example || line.rfind("zunde-cli ", 0) == 0) std::printf("%s\n", line.c_str());
+  }
+  for (const CLI::App* sub : app.get_subcommands([](const CLI::App*) { return true; })) PrintExamples(*sub);
+  return kOk;
 }
 
 bool Timed(const std::function<bool()>& call) {

@@ -68,7 +68,7 @@ Json::Value J(Record& record) {
 struct Command {
   std::string name;
   std::string help;
-  std::string example;  // a full command line
+  std::string example;  // a full command line that succeeds on the default data; empty: none can
   std::vector<Arg> args;
   // Makes the call; fills `out` with the result's JSON form. The API's result.
   std::function<bool(const Args& args, Json::Value& out)> call;

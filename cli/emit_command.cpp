@@ -55,7 +55,7 @@ void AddEmit(CLI::App& app, Action& action) {
   emit->footer("Example: zunde-cli emit FavoriteChanged 0 1 3");
   emit->add_option("EVENT", request->event, "the event's number or name (see zunde-cli monitor --help)")
       ->required()
-      ->check(CLI::Validator(CheckEvent, ""));
+      ->transform(CLI::Validator(CheckEvent, ""));
   emit->add_option("PARAMS", request->params, "up to three int parameters: P1 P2 P3")
       ->expected(0, 3)
       ->check(CLI::Validator([](std::string& text) { return CheckWhole(text, INT32_MIN, INT32_MAX, "int"); }, ""));

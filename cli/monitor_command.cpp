@@ -87,7 +87,7 @@ void AddMonitor(CLI::App& app, Action& action) {
   for (const zunde::EventName& event : zunde::kEventNames)
     events += "\n  " + std::to_string(event.number) + " " + event.name;
   monitor->footer(
-      "Example: zunde-cli monitor --count 1 --timeout 10 --json\n"
+      "Example: zunde-cli monitor --timeout 1 --json\n"
       "Exit status 1 when --count events did not arrive within --timeout.\nEvents:" + events);
   monitor->add_option("--count", options->count, "stop after N events")->check(CLI::PositiveNumber);
   monitor->add_option("--timeout", options->timeout, "stop after S seconds")->check(CLI::PositiveNumber);

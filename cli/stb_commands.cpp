@@ -33,7 +33,7 @@ Json::Value ProgramTableShape() {
   return shape;
 }
 
-const Arg kChannel{"CHANNEL", Kind::Json, "a channel's JSON form, e.g. '{\"m_major\": 7, \"m_minor\": 1}'",
+const Arg kChannel{"CHANNEL", Kind::Json, "a channel's JSON form, e.g. '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
                    ChannelShape()};
 const Arg kQuery{"QUERY", Kind::Int, "0 every channel, 1 remembered, 2 favourites, 3 digital"};
 
@@ -91,7 +91,7 @@ Command OnChannel(const char* name, const char* help, const char* example, bool 
 // Channel up or down from the channel given.
 Command Step(const char* name, const char* help, bool (Api::*method)(Api::EActivityID, FCMBRNetworkChannel&,
                                                                      FCMBRNetworkChannel&)) {
-  return {name, help, (std::string("zunde-cli stb ") + name + " 0 '{\"m_major\": 7, \"m_minor\": 1}'"),
+  return {name, help, (std::string("zunde-cli stb ") + name + " 0 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'"),
           {kAct, kChannel}, [method](const Args& a, Json::Value& out) {
             FCMBRNetworkChannel current = ChannelArg(a, 1), next;
             const bool ok = (Stb()->*method)(Act(a), current, next);
@@ -120,6 +120,24 @@ std::vector<Command> Commands() {
        return ok;
      }},
     OnActivity("delete", "Delete an activity slot", &Api::DeleteActivityID),
+    // After the slot is deleted, so that the examples after them find a channel and its programme.
+    {"set-channels", "Replace the channel map", "zunde-cli stb set-channels 0 '{\"MBR channel table\": [{\"m_major\": 7, \"m_originMajor\": 7, \"m_minor\": 1, \"m_name\": \"News\", \"m_channelID\": 7}]}'",
+     {kAct, {"TABLE", Kind::Json, "{\"MBR channel table\": [channels]}", ChannelTableShape()}},
+     [](const Args& a, Json::Value&) {
+       FCMBRNetworkChannelTable table;
+       Json::Value value = a.json(1);
+       FCMarshal::JsonToMBRNetworkChannelTable(value, table);
+       return Stb()->SetMBRNetworkChannelMap(Act(a), table);
+     }},
+    {"set-programs", "Replace the programme map of a channel id",
+     "zunde-cli stb set-programs 7 '{\"mbrProgramTable\": [{\"m_startTime\": 1767225600, \"m_duration\": 315360000, \"m_title\": \"News loop\", \"m_channelID\": 7, \"m_programID\": \"n1\"}]}'",
+     {{"CHANNEL_ID", Kind::Text, "channel id"}, {"TABLE", Kind::Json, "{\"mbrProgramTable\": [programmes]}", ProgramTableShape()}},
+     [](const Args& a, Json::Value&) {
+       FCMBRNetworkProgramTable table;
+       Json::Value value = a.json(1);
+       FCMarshal::JsonToMBRProgramTable(value, table);
+       return Stb()->SetMBRNetworkProgramMap(table, a.s(0));
+     }},
     {"bind", "Bind an activity slot to a TV source", "zunde-cli stb bind 0 3",
      {kAct, {"SOURCE", Kind::Int, "TV input source"}},
      [](const Args& a, Json::Value&) { return Stb()->SetActivityIDSourceID(Act(a), static_cast<ESource>(a.i(1))); }},
@@ -136,7 +154,7 @@ std::vector<Command> Commands() {
     OnActivity("save", "Save the channel map", &Api::SaveMBRNetworkChannelMap),
     OnActivity("edit-done", "Tell the service the user's channel edit is complete",
                &Api::NotifyMBRChannelEditCompleted),
-    {"current-program", "The programme on a channel now", "zunde-cli stb current-program 0 '{\"m_major\": 7, \"m_minor\": 1}'",
+    {"current-program", "The programme on a channel now", "zunde-cli stb current-program 0 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
      {kAct, kChannel},
      [](const Args& a, Json::Value& out) {
        FCMBRNetworkChannel channel = ChannelArg(a, 1);
@@ -155,14 +173,6 @@ std::vector<Command> Commands() {
        out["channel"] = Of(channel);
        out["program"] = Of(program);
        return ok;
-     }},
-    {"set-channels", "Replace the channel map", "zunde-cli stb set-channels 0 '{\"MBR channel table\": [{\"m_major\": 7, \"m_minor\": 1, \"m_name\": \"News\", \"m_channelID\": 7}]}'",
-     {kAct, {"TABLE", Kind::Json, "{\"MBR channel table\": [channels]}", ChannelTableShape()}},
-     [](const Args& a, Json::Value&) {
-       FCMBRNetworkChannelTable table;
-       Json::Value value = a.json(1);
-       FCMarshal::JsonToMBRNetworkChannelTable(value, table);
-       return Stb()->SetMBRNetworkChannelMap(Act(a), table);
      }},
     {"channels", "List the channel map", "zunde-cli stb channels 0 0", {kAct, kQuery},
      [](const Args& a, Json::Value& out) {
@@ -191,7 +201,7 @@ std::vector<Command> Commands() {
     OnChannel("remove", "Remove a channel", "zunde-cli stb remove 0 '{\"m_major\": 9, \"m_minor\": 1}'",
               &Api::RemoveMBRNetworkChannel),
     {"edit", "Store the user's edit of a channel (found by channel id and origin major); only the fields given change",
-     "zunde-cli stb edit 0 '{\"m_channelID\": 7, \"m_originMajor\": 7, \"m_major\": 70, \"m_name\": \"My news\"}'",
+     "zunde-cli stb edit 0 '{\"m_channelID\": 7, \"m_originMajor\": 7, \"m_name\": \"My news\"}'",
      {kAct, kChannel},
      [](const Args& a, Json::Value& out) {
        const Json::Value given = a.json(1);
@@ -211,28 +221,19 @@ std::vector<Command> Commands() {
        FCMBRNetworkChannel channel = ChannelArg(a, 1);
        return Stb()->SetRememberMBRNetworkChannel(Act(a), channel, a.b(2));
      }},
-    {"add-favorite", "Add a channel to a favourite list", "zunde-cli stb add-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1}'",
+    {"add-favorite", "Add a channel to a favourite list", "zunde-cli stb add-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
      {kAct, {"LIST", Kind::Int, "favourite list, 0 to 4"}, kChannel},
      [](const Args& a, Json::Value&) {
        FCMBRNetworkChannel channel = ChannelArg(a, 2);
        return Stb()->AddFavoriteMBRNetworkChannel(Act(a), static_cast<FCMBRNetworkChannel::EFavorite>(a.i(1)), channel);
      }},
     {"delete-favorite", "Delete a channel from a favourite list",
-     "zunde-cli stb delete-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1}'",
+     "zunde-cli stb delete-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
      {kAct, {"LIST", Kind::Int, "favourite list, 0 to 4"}, kChannel},
      [](const Args& a, Json::Value&) {
        FCMBRNetworkChannel channel = ChannelArg(a, 2);
        return Stb()->DeleteFavoriteMBRNetworkChannel(Act(a), static_cast<FCMBRNetworkChannel::EFavorite>(a.i(1)),
                                                      channel);
-     }},
-    {"set-programs", "Replace the programme map of a channel id",
-     "zunde-cli stb set-programs 7 '{\"mbrProgramTable\": [{\"m_startTime\": 1767225600, \"m_duration\": 1800, \"m_title\": \"News\", \"m_channelID\": 7, \"m_programID\": \"n1\"}]}'",
-     {{"CHANNEL_ID", Kind::Text, "channel id"}, {"TABLE", Kind::Json, "{\"mbrProgramTable\": [programmes]}", ProgramTableShape()}},
-     [](const Args& a, Json::Value&) {
-       FCMBRNetworkProgramTable table;
-       Json::Value value = a.json(1);
-       FCMarshal::JsonToMBRProgramTable(value, table);
-       return Stb()->SetMBRNetworkProgramMap(table, a.s(0));
      }},
     {"programs", "The programme map of a channel id", "zunde-cli stb programs 7", {{"CHANNEL_ID", Kind::Text, "channel id"}},
      [](const Args& a, Json::Value& out) {
@@ -254,7 +255,7 @@ std::vector<Command> Commands() {
        out["minor"] = minor;
        return ok;
      }},
-    YesNo({"has-channels", "Whether a query finds any channel (status 1 when not)", "zunde-cli stb has-channels 0 2",
+    YesNo({"has-channels", "Whether a query finds any channel (status 1 when not)", "zunde-cli stb has-channels 0 0",
      {kAct, kQuery},
      [](const Args& a, Json::Value& out) {
        return (out["exists"] = Stb()->ExistChannelInActivityID(Act(a), static_cast<Api::EMBRNetworkChannelQuery>(a.i(1))))
@@ -285,7 +286,11 @@ std::vector<Command> Commands() {
         std::make_tuple("device", "device type", "cable", &Api::SetDeviceType, &Api::GetDeviceType),
         std::make_tuple("headend", "head-end id", "NY31519", &Api::SetHeadEndID, &Api::GetHeadEndID),
         std::make_tuple("location", "location", "living-room", &Api::SetLocation, &Api::GetLocation)})
-    for (Command& row : Setting(name, what, sample, set, get)) rows.push_back(set == &Api::SetAdditionalInfo ? Local(row) : row);
+    for (Command& row : Setting(name, what, sample, set, get)) {
+      // The library answers these with false: there is no example that succeeds.
+      if (set == &Api::SetAdditionalInfo) row = Local(row), row.example.clear();
+      rows.push_back(row);
+    }
   return rows;
 }
 
