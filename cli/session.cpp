@@ -26,7 +26,8 @@ bool ServiceAnswers() {
 std::string StartHint() {
   const char* bus = std::getenv("DBUS_SYSTEM_BUS_ADDRESS");
   return std::string("; start it with `zunde-service --data-dir DIR` on the bus ") +
-         (bus && *bus ? bus : "(the system bus)") + " (or run scripts/demo.sh)";
+         (bus && *bus ? bus : "(the system bus)") +
+         ", or keep one running with `eval \"$(scripts/dev-env.sh start)\"` (installed: zunde-dev-env)";
 }
 
 int ReportUnreachable() {

@@ -1,17 +1,23 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and testing need, only those
-# that are missing.
+# Installs the Debian packages that are missing, of one of two groups:
+#   scripts/install-dependencies.sh [--all]   building, testing, benchmarks,
+#                                              fuzzers and the ABI check
+#   scripts/install-dependencies.sh --build   building and running the
+#                                              library, service and CLI
 set -euo pipefail
 
 packages=(
   build-essential cmake pkg-config
   libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev libsqlite3-dev
   libcli11-dev
-  abigail-tools
   dbus-daemon
-  googletest libgtest-dev libgmock-dev libbenchmark-dev
-  clang libclang-rt-dev
+  googletest libgtest-dev libgmock-dev
 )
+case "${1:---all}" in
+  --build) ;;
+  --all) packages+=(libbenchmark-dev abigail-tools clang libclang-rt-dev) ;;
+  *) echo "usage: $0 [--build|--all]" >&2; exit 2 ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do
