@@ -54,7 +54,7 @@ Family EnvironmentFamily() {
        return ok;
      }},
     {"timeout-test", "Hold back the service's answers (time-out test mode) or stop doing so",
-     "zunde-cli env timeout-test on", {{"ON", Kind::Bool, "on or off"}},
+     "zunde-cli env timeout-test off", {{"ON", Kind::Bool, "on or off"}},
      [](const Args& a, Json::Value&) { return Env()->ToggleZundeTimeoutTest(a.b(0)); }},
     {"reset", "Reset the environment to its defaults", "zunde-cli env reset", {},
      [](const Args&, Json::Value&) { return Env()->Reset(); }},

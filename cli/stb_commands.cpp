@@ -130,8 +130,8 @@ std::vector<Command> Commands() {
        return Stb()->SetMBRNetworkChannelMap(Act(a), table);
      }},
     {"set-programs", "Replace the programme map of a channel id",
-     "zunde-cli stb set-programs 7 '{\"mbrProgramTable\": [{\"m_startTime\": 1767225600, \"m_duration\": 315360000, \"m_title\": \"News loop\", \"m_channelID\": 7, \"m_programID\": \"n1\"}]}'",
-     {{"CHANNEL_ID", Kind::Text, "channel id"}, {"TABLE", Kind::Json, "{\"mbrProgramTable\": [programmes]}", ProgramTableShape()}},
+     "zunde-cli stb set-programs 7 '{\"mbrProgramTable\": [{\"first\": 1767225600, \"m_startTime\": 1767225600, \"m_duration\": 315360000, \"m_title\": \"News loop\", \"m_channelID\": 7, \"m_programID\": \"n1\"}]}'",
+     {{"CHANNEL_ID", Kind::Text, "channel id"}, {"TABLE", Kind::Json, "{\"mbrProgramTable\": [programmes, each with \"first\": its start time]}", ProgramTableShape()}},
      [](const Args& a, Json::Value&) {
        FCMBRNetworkProgramTable table;
        Json::Value value = a.json(1);
@@ -164,7 +164,7 @@ std::vector<Command> Commands() {
        out["program"] = Of(program);
        return ok;
      }},
-    {"program-at", "The programme on a channel at a time", "zunde-cli stb program-at 0 '{\"m_major\": 7, \"m_minor\": 1}' now",
+    {"program-at", "The programme on a channel at a time", "zunde-cli stb program-at 0 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}' now+1h",
      {kAct, kChannel, {"TIME", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"}},
      [](const Args& a, Json::Value& out) {
        FCMBRNetworkChannel channel = ChannelArg(a, 1);

@@ -92,8 +92,6 @@ Family VirtualFamily() {
        out = J(id);
        return ok;
      }},
-    {"unset-on-demand", "Empty an on-demand slot", std::string("zunde-cli virtual unset-on-demand") + kIdSample, {kId},
-     [](const Args& a, Json::Value&) { return Vc()->UnsetOnDemandProgram(a.rec<FCVirtualProgramId>(0)); }},
     {"on-demand-id", "The programme id in a channel's on-demand slot", "zunde-cli virtual on-demand-id 281466386841601", {kService},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
@@ -102,6 +100,8 @@ Family VirtualFamily() {
        out = J(id);
        return ok;
      }},
+    {"unset-on-demand", "Empty an on-demand slot", "zunde-cli virtual unset-on-demand '{\"program_id\": {\"TCServiceId\": \"281466386841601\", \"event_id\": \"vod-1\", \"start_time\": 0, \"duration\": 0}}'", {kId},
+     [](const Args& a, Json::Value&) { return Vc()->UnsetOnDemandProgram(a.rec<FCVirtualProgramId>(0)); }},
     {"config", "The virtual channel configuration", "zunde-cli virtual config", {},
      [](const Args&, Json::Value& out) {
        FCVirtualConfig config;

@@ -213,7 +213,7 @@ void Favorite(Request& request, Json::Value& reply, bool on) {
   ChangeChannel(request, reply, [&](ChannelList& channels, ChannelList::iterator it, int activity) {
     it->SetFavorite(list, on);
     const auto size = std::count_if(channels.begin(), channels.end(),
-                                    [&](const FCMBRNetworkChannel& c) { return c.GetFavoriteBitSet()[list]; });
+                                    [&](const FCMBRNetworkChannel& c) { return c.GetFavoriteBitSet().test(list); });
     Raise(request, kEventFavoriteChanged, activity, list, static_cast<int32_t>(size));
   });
 }

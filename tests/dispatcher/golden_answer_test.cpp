@@ -59,3 +59,19 @@ TEST(GoldenAnswers, EachShapeAnswersItsExactText) {
 }
 
 }  // namespace
+
+namespace {
+
+// A favourite change names the list and how many channels are on it now.
+TEST(Events, AFavouriteChangeCountsTheChannelsOnItsList) {
+  zunde::testing::Served served;
+  served.Text("SetMBRNetworkChannelMap",
+              R"({"activityID": 0, "MBR channel table": [{"m_major": 7, "m_minor": 1}, {"m_major": 9, "m_minor": 1}]})");
+  const char* const add7 = R"({"activityID": 0, "favorite": 2, "m_major": 7, "m_minor": 1})";
+  const char* const add9 = R"({"activityID": 0, "favorite": 2, "m_major": 9, "m_minor": 1})";
+  EXPECT_EQ(served.Raised("AddFavoriteMBRNetworkChannel", add7), std::vector<std::string>{"13:0,2,1"});
+  EXPECT_EQ(served.Raised("AddFavoriteMBRNetworkChannel", add9), std::vector<std::string>{"13:0,2,2"});
+  EXPECT_EQ(served.Raised("DeleteFavoriteMBRNetworkChannel", add7), std::vector<std::string>{"13:0,2,1"});
+}
+
+}  // namespace

@@ -9,6 +9,7 @@
 #include <ctime>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "FCMarshal.h"
 #include "dispatcher.h"
@@ -38,6 +39,16 @@ class Served {
   std::string Text(const std::string& member, const std::string& payload) {
     std::vector<service::Event> events;
     return dispatcher_->Answer(member, payload, events);
+  }
+  // The events `member` raised, each as "number:p1,p2,p3".
+  std::vector<std::string> Raised(const std::string& member, const std::string& payload) {
+    std::vector<service::Event> events;
+    dispatcher_->Answer(member, payload, events);
+    std::vector<std::string> texts;
+    for (const service::Event& e : events)
+      texts.push_back(std::to_string(e.number) + ":" + std::to_string(e.params[0]) + "," +
+                      std::to_string(e.params[1]) + "," + std::to_string(e.params[2]));
+    return texts;
   }
   Json::Value Ask(const std::string& member, const Json::Value& request) {
     Json::Value answer;
