@@ -65,6 +65,11 @@ Dispatcher::Dispatcher(Store& store, const Catalogue& catalogue, const StorageLi
   }
 }
 
+const Member* Dispatcher::Find(const std::string& member) const {
+  const auto found = members_.find(member);
+  return found == members_.end() ? nullptr : found->second;
+}
+
 void Dispatcher::Run(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events) {
   Request request{body, store_, runtime_, events, catalogue_, limits_};
   if (!member.changesState) {
@@ -80,11 +85,11 @@ std::string Dispatcher::Answer(const std::string& member, const std::string& pay
   Json::Value reply(Json::objectValue);
   std::vector<Event> raised;
   try {
-    const auto found = members_.find(member);
-    if (found == members_.end()) throw BadRequest("unknown member \"" + member + "\"");
+    const Member* found = Find(member);
+    if (found == nullptr) throw BadRequest("unknown member \"" + member + "\"");
     Json::Value body = ParseRequest(payload);
-    CheckKeys(*found->second, body);
-    Run(*found->second, body, reply, raised);
+    CheckKeys(*found, body);
+    Run(*found, body, reply, raised);
     events.insert(events.end(), raised.begin(), raised.end());
   } catch (const BadRequest& refused) {
     reply = Json::Value(Json::objectValue);

@@ -20,6 +20,8 @@ class Dispatcher {
   std::string Answer(const std::string& member, const std::string& payload, std::vector<Event>& events);
 
   const RuntimeState& Runtime() const { return runtime_; }
+  // The row of `member`; null when there is none.
+  const Member* Find(const std::string& member) const;
 
  private:
   void Run(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events);
