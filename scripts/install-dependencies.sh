@@ -7,23 +7,36 @@ packages=(
   build-essential cmake pkg-config
   libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev libsqlite3-dev
   libcli11-dev
+  libsoup-3.0-dev
   abigail-tools
   dbus-daemon
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-dev
 )
+# Only the page's browser test needs these; it is skipped where they cannot be had.
+browser_packages=(chromium chromium-driver python3-selenium)
 
-missing=()
-for package in "${packages[@]}"; do
-  if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then
-    missing+=("$package")
-  fi
-done
+sudo_cmd=()
+if [ "$(id -u)" -ne 0 ]; then sudo_cmd=(sudo); fi
+updated=false
 
-if ((${#missing[@]})); then
+# Installs those of the named packages that are missing.
+install_missing() {
+  local missing=() package
+  for package in "$@"; do
+    if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then
+      missing+=("$package")
+    fi
+  done
+  ((${#missing[@]})) || return 0
   echo "Installing: ${missing[*]}"
-  sudo_cmd=()
-  if [ "$(id -u)" -ne 0 ]; then sudo_cmd=(sudo); fi
-  "${sudo_cmd[@]}" apt-get update -qq
+  if ! $updated; then
+    "${sudo_cmd[@]}" apt-get update -qq
+    updated=true
+  fi
   DEBIAN_FRONTEND=noninteractive "${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
-fi
+}
+
+install_missing "${packages[@]}"
+install_missing "${browser_packages[@]}" ||
+  echo "install-dependencies: no browser could be installed; the page's browser test will be skipped"

@@ -36,9 +36,10 @@ function clock(seconds) {
 // A block of the grid at its place within [from, from + span).
 function block(className, start, length, from, span, ...children) {
   const left = Math.max(start, from), right = Math.min(start + length, from + span);
-  const style = "left:" + (100 * (left - from) / span) + "%;width:" + (100 * (right - left) / span) + "%";
   const node = el("div", { className }, ...children);
-  node.setAttribute("style", style);
+  // Through the style object: the page's policy forbids style attributes.
+  node.style.left = (100 * (left - from) / span) + "%";
+  if (length) node.style.width = (100 * (right - left) / span) + "%";
   return node;
 }
 
@@ -128,8 +129,8 @@ function redrawSoon() { if (!pending) pending = setTimeout(drawAll, 150); }
 
 function showEvent(event) {
   const params = [event.param1, event.param2, event.param3].join(", ");
-  const line = el("li", { className: "fresh" },
-    new Date().toLocaleTimeString() + "  " + event.event + (event.name ? " " + event.name : "") + "  (" + params + ")");
+  const line = el("li", { className: "fresh" }, new Date().toLocaleTimeString() + " ",
+    el("b", { className: "event" }, String(event.event)), " " + (event.name || "") + " (" + params + ")");
   const list = document.getElementById("events");
   list.prepend(line);
   setTimeout(() => line.classList.remove("fresh"), 2000);
