@@ -45,9 +45,10 @@ PageServer::~PageServer() {
 }
 
 bool PageServer::Start(std::string& error) {
-  GInetAddress* inet = g_inet_address_new_from_string(address_.c_str());
+  GInetAddress* inet = address_ == "localhost" ? g_inet_address_new_loopback(G_SOCKET_FAMILY_IPV4)
+                                               : g_inet_address_new_from_string(address_.c_str());
   if (inet == nullptr) {
-    error = "\"" + address_ + "\" is not an IP address";
+    error = "\"" + address_ + "\" is not an IP address (nor localhost)";
     return false;
   }
   GSocketAddress* socket = g_inet_socket_address_new(inet, static_cast<guint16>(port_));
