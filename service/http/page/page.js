@@ -113,8 +113,28 @@ async function drawSetTopBox() {
     ...(parts.length ? parts : [el("p", {}, "No activity holds channels or settings.")]));
 }
 
+// Virtual channels are found as an application finds them: among the
+// services of the broadcast navigation, those the virtual family knows.
+let virtualIds = null;
+async function findVirtualIds() {
+  const services = (await member("GetRFNetworkChannelMapByGenre", { genre: "" }))["service list"] || [];
+  const found = [];
+  for (let i = 0; i < services.length; i += 16) {
+    await Promise.all(services.slice(i, i + 16).map(s => member("GetFeaturedVirtualChannelInfo", s)
+      .then(() => found.push(s.TCServiceId), () => {})));
+  }
+  return found;
+}
+
 async function drawVirtual() {
-  document.getElementById("virtual").replaceChildren(el("p", {}, "(none)"));
+  virtualIds = virtualIds || await findVirtualIds();
+  const rows = await Promise.all(virtualIds.map(async id => {
+    const present = await member("GetPresentProgram", { TCServiceId: id }).catch(() => ({}));
+    const slot = await member("GetOnDemandIdentifier", { TCServiceId: id }).catch(() => ({}));
+    return [id, present.channel_name || "", present.title || "", slot.program_id || "(empty)"];
+  }));
+  document.getElementById("virtual").replaceChildren(rows.length
+    ? table(["service id", "channel", "on now", "on demand"], rows) : el("p", {}, "(none)"));
 }
 
 let pending = null;
