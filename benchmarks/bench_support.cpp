@@ -12,6 +12,8 @@
 
 #include "FCElementData.h"
 #include "FCMarshal.h"
+#include "child_process.h"
+#include "test_bus.h"
 
 namespace zunde::bench {
 namespace {
@@ -60,14 +62,28 @@ long StatusKiB(const char* field) {
 
 }  // namespace
 
-void Script(const std::string& member, const std::string& payload) {
+AnsweringService::AnsweringService(const char* replyAll) {
+  zunde::testing::TestBus::Start();
+  pid_ = zunde::testing::StartChild([replyAll](int writeFd) {
+           dup2(writeFd, STDOUT_FILENO);
+           close(writeFd);
+           execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", "--reply-all", replyAll, static_cast<char*>(nullptr));
+         }).pid;
+}
+
+AnsweringService::~AnsweringService() {
+  zunde::testing::StopChild(pid_);
+  zunde::testing::TestBus::Stop();
+}
+
+void Script(const std::string& member, const std::string& payload, unsigned delayMs) {
   DBusMessage* message = dbus_message_new_method_call(kListener, kControlPath, kControlInterface, "Script");
   const char* name = member.c_str();
   const char* action = "reply";
   const dbus_int32_t status = 0;
   const dbus_int32_t length = -1;
   const char* bytes = payload.data();
-  const dbus_uint32_t delay = 0;
+  const dbus_uint32_t delay = delayMs;
   dbus_message_append_args(message, DBUS_TYPE_STRING, &name, DBUS_TYPE_STRING, &action, DBUS_TYPE_INT32, &status,
                            DBUS_TYPE_INT32, &length, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE, &bytes, int(payload.size()),
                            DBUS_TYPE_UINT32, &delay, DBUS_TYPE_INVALID);

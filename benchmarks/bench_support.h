@@ -5,6 +5,7 @@
 #define ZUNDE_BENCH_SUPPORT_H
 
 #include <dbus/dbus.h>
+#include <sys/types.h>
 
 #include <cstddef>
 #include <functional>
@@ -12,8 +13,21 @@
 
 namespace zunde::bench {
 
-// From now on the service answers `member` with `payload` (status 0).
-void Script(const std::string& member, const std::string& payload);
+// The private bus and the scriptable test service on it, answering every
+// member without a script of its own with `replyAll`; both end with it.
+class AnsweringService {
+ public:
+  explicit AnsweringService(const char* replyAll);
+  ~AnsweringService();
+  AnsweringService(const AnsweringService&) = delete;
+  AnsweringService& operator=(const AnsweringService&) = delete;
+
+ private:
+  pid_t pid_;
+};
+
+// From now on the service answers `member` with `payload` (status 0), `delayMs` after each call.
+void Script(const std::string& member, const std::string& payload, unsigned delayMs = 0);
 // Lets the service forget the calls it recorded, so big requests do not pile up there.
 void ForgetCalls();
 

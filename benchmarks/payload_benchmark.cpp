@@ -7,7 +7,6 @@
 // The ratios follow the table (on standard error with --benchmark_format=json).
 #include <benchmark/benchmark.h>
 #include <json/json.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -23,8 +22,7 @@
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
 #include "FCRemoteContentOnTV_Proxy.h"
 #include "bench_support.h"
-#include "child_process.h"
-#include "test_bus.h"
+#include "ratio_reporter.h"
 
 namespace {
 
@@ -204,44 +202,6 @@ void Register(const std::string& channels500, const std::string& channels5000, c
   benchmark::RegisterBenchmark("Typed/Small", TypedSmall)->Threads(4)->UseRealTime();
 }
 
-// Keeps each run's time per call, keyed "Name" or "Name@4" for four threads, for the ratios; with
-// --benchmark_repetitions the median of the repetitions counts.
-template <typename Base>
-class RatioReporter : public Base {
- public:
-  using Run = benchmark::BenchmarkReporter::Run;
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration || run.iterations == 0) continue;
-      std::string key = run.run_name.function_name;
-      if (run.threads > 1) key += "@" + std::to_string(run.threads);
-      times_[key].push_back(run.GetAdjustedRealTime());
-      for (const auto& counter : run.counters) times_[key + "." + counter.first].push_back(counter.second);
-    }
-    Base::ReportRuns(runs);
-  }
-  double Time(const std::string& key) const {
-    const auto found = times_.find(key);
-    if (found == times_.end()) return 0;
-    std::vector<double> times = found->second;
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-  }
-
- private:
-  std::map<std::string, std::vector<double> > times_;
-};
-
-void Ratio(FILE* out, const char* what, double value, double target) {
-  if (!std::isfinite(value) || value <= 0) {
-    std::fprintf(out, "  %-58s    n/a  (not run)\n", what);
-  } else if (target > 0) {
-    std::fprintf(out, "  %-58s %6.2f  (target <= %.2f: %s)\n", what, value, target, value <= target ? "met" : "MISSED");
-  } else {
-    std::fprintf(out, "  %-58s %6.2f\n", what, value);
-  }
-}
-
 template <typename Reporter>
 void PrintRatios(const Reporter& r, FILE* out, long bareBytes, long libraryBytes) {
   std::fprintf(out, "\nRatios:\n");
@@ -269,26 +229,12 @@ void PrintRatios(const Reporter& r, FILE* out, long bareBytes, long libraryBytes
   Ratio(out, "peak memory above idle, 4 MiB reply, pass-through / reply size", libraryBytes / reply, 2.25);
 }
 
-template <typename Base>
-void Run(FILE* out, long bareBytes, long libraryBytes) {
-  RatioReporter<Base> reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  PrintRatios(reporter, out, bareBytes, libraryBytes);
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
-  bool json = false;
-  for (int i = 1; i < argc; ++i) json = json || std::string(argv[i]) == "--benchmark_format=json";
+  const bool json = JsonRequested(argc, argv);
   benchmark::Initialize(&argc, argv);
-  zunde::testing::TestBus::Start();
-  pid_t service = zunde::testing::StartChild([](int writeFd) {
-                          dup2(writeFd, STDOUT_FILENO);
-                          close(writeFd);
-                          execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", "--reply-all", kSmallReply,
-                                static_cast<char*>(nullptr));
-                        }).pid;
+  AnsweringService service(kSmallReply);
 
   // Peak memory first, in fresh children, before this process has touched the library.
   const std::string big = PaddedText(kSizes[2].bytes);
@@ -313,12 +259,8 @@ int main(int argc, char** argv) {
   std::fprintf(stderr, "reply texts: 500 channels %zu B, 5000 channels %zu B, week map (50 channels) %zu B\n",
                channels500.size(), channels5000.size(), week.size());
   Register(channels500, channels5000, week);
-  if (json) {
-    Run<benchmark::JSONReporter>(stderr, bareBytes, libraryBytes);
-  } else {
-    Run<benchmark::ConsoleReporter>(stdout, bareBytes, libraryBytes);
-  }
-  zunde::testing::StopChild(service);
-  zunde::testing::TestBus::Stop();
+  RunAndPrintRatios(json, [&](const auto& reporter, FILE* out) {
+    PrintRatios(reporter, out, bareBytes, libraryBytes);
+  });
   return 0;
 }

@@ -4,7 +4,6 @@
 // The last lines print each benchmark's time as a multiple of the bare one.
 #include <benchmark/benchmark.h>
 #include <dbus/dbus.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <map>
@@ -14,8 +13,6 @@
 #include "FCMessageBuffer.h"
 #include "FCRemoteContentOnTV_Proxy.h"
 #include "bench_support.h"
-#include "child_process.h"
-#include "test_bus.h"
 
 namespace {
 
@@ -83,17 +80,9 @@ class RatioReporter : public benchmark::ConsoleReporter {
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
-  zunde::testing::TestBus::Start();
-  pid_t service = zunde::testing::StartChild([](int writeFd) {
-                    dup2(writeFd, STDOUT_FILENO);
-                    close(writeFd);
-                    execl(ZUNDE_TEST_SERVICE_PATH, "zunde-test-service", "--reply-all", kReply,
-                          static_cast<char*>(nullptr));
-                  }).pid;
+  zunde::bench::AnsweringService service(kReply);
   RatioReporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
   reporter.PrintRatios();
-  zunde::testing::StopChild(service);
-  zunde::testing::TestBus::Stop();
   return 0;
 }

@@ -1,5 +1,5 @@
-// Threads share the one connection: each gets exactly its own replies, and a
-// slow call holds up no other thread's call.
+// Threads calling at once: each gets exactly its own replies, and a slow call
+// holds up no other thread's call.
 #include <chrono>
 #include <cstdlib>
 #include <future>
@@ -50,27 +50,41 @@ TEST_F(Concurrent, EightThreadsOnTheSharedConnectionEachGetTheirOwnReplies) {
   unsetenv("ZUNDE_SLOW_CALL_MS");
 }
 
-// libdbus writes a second thread's call only once the thread waiting for its
-// own reply wakes from poll, which incoming messages make it do. With such
-// traffic the fast call goes through while the slow one waits; a lock of ours
-// around calls would hold it up until the slow reply.
-TEST_F(Concurrent, ASlowCallHoldsUpNoOtherThreadsCallOnceTheConnectionHasTraffic) {
-  TestService::Reply("GetPersonalUserID", kUserReply, 0, -1, 4000);
+// Waits, bounded by time, until the service has received `count` calls of `member`.
+bool ReceivedWithin(const std::string& member, std::size_t count, std::chrono::milliseconds limit) {
+  const auto giveUp = std::chrono::steady_clock::now() + limit;
+  std::size_t seen = 0;
+  while (std::chrono::steady_clock::now() < giveUp) {
+    for (const ReceivedCall& call : TestService::TakeCalls()) seen += call.member == member;
+    if (seen >= count) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return false;
+}
+
+// A call waits only for its own reply: with a slow call in flight and
+// nothing else on the bus to wake its thread, another thread's call is
+// written and answered at once.
+TEST_F(Concurrent, ASlowCallHoldsUpNoOtherThreadsCall) {
+  TestService::Reply("GetPersonalUserID", kUserReply, 0, -1, 2000);
   auto slow = std::async(std::launch::async, CallForUser);
-  std::this_thread::sleep_for(std::chrono::milliseconds(300));
+  ASSERT_TRUE(ReceivedWithin("GetPersonalUserID", 1, std::chrono::seconds(5)));
   auto fast = std::async(std::launch::async, [this] { return Echoed(api_, "fast"); });
-  const std::string library = FIIPCConnection::GetInstance()->GetConnectionId();
-  // Each message wakes the waiting thread once, and the fast call's thread
-  // must win the race for the connection then: traffic in quick succession,
-  // for as long as the slow call waits at most.
-  const auto giveUp = std::chrono::steady_clock::now() + std::chrono::milliseconds(3400);
-  while (fast.wait_for(std::chrono::milliseconds(2)) != std::future_status::ready &&
-         std::chrono::steady_clock::now() < giveUp)
-    TestService::Emit("Event", "7", "", library);
-  EXPECT_EQ(fast.wait_for(std::chrono::seconds(0)), std::future_status::ready);
+  ASSERT_EQ(fast.wait_for(std::chrono::seconds(10)), std::future_status::ready);
   EXPECT_EQ(slow.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
   EXPECT_TRUE(fast.get());
   EXPECT_TRUE(slow.get());
+}
+
+// The process opens at most eight connections besides its own: nine calls
+// reach the service at once, and the others wait for a free connection.
+TEST_F(Concurrent, CallsPastTheSpareConnectionsWaitForAFreeOne) {
+  TestService::Reply("GetPersonalUserID", kUserReply, 0, -1, 3000);
+  std::vector<std::future<bool>> calls;
+  for (int i = 0; i < 12; ++i) calls.push_back(std::async(std::launch::async, CallForUser));
+  ASSERT_TRUE(ReceivedWithin("GetPersonalUserID", 9, std::chrono::milliseconds(2500)));
+  EXPECT_FALSE(ReceivedWithin("GetPersonalUserID", 1, std::chrono::milliseconds(300)));
+  for (auto& call : calls) EXPECT_TRUE(call.get());
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "FCDebug.h"
+#include "FCIPCCallLane_internal.h"
 #include "FCIPCNames_internal.h"
 #include "FCIPCWire_internal.h"
 #include "FCLog_internal.h"
@@ -101,8 +102,12 @@ int FCIPCConnection::Call(std::string const& destination, char const* method, FC
 
   DBusError error;
   dbus_error_init(&error);
-  DBusMessage* answer =
-      dbus_connection_send_with_reply_and_block(m_pConnection, message, zunde::bus::kInfiniteTimeoutMs, &error);
+  DBusMessage* answer = nullptr;
+  {
+    zunde::bus::CallLane lane(m_pConnection);
+    answer = dbus_connection_send_with_reply_and_block(lane.Connection(), message, zunde::bus::kInfiniteTimeoutMs,
+                                                       &error);
+  }
   dbus_message_unref(message);
   if (answer == nullptr) {
     FC_LOG_WARN(0, "dbus_connection_send_with_reply_and_block: %s\n", error.message ? error.message : "");

@@ -1,8 +1,10 @@
 // The process's D-Bus connection to the service.
 //
 // One private connection to the system bus, made once when the connection is
-// first asked for, carries every method call of the proxies and receives the
-// service's signals. Calls block the calling thread until the service answers.
+// first asked for, carries the proxies' method calls and receives the
+// service's signals. A call blocks only the calling thread, until its own
+// reply arrives: a call made while another thread's call is in flight goes
+// on a spare connection (see FCIPCCallLane_internal.h).
 // Signals reach the registered callbacks only once the connection has been
 // attached to a GLib main context (SetGMainLoop): the library runs no dispatch
 // thread of its own.
