@@ -1,7 +1,5 @@
 #include "event_stream.h"
 
-#include <json/json.h>
-
 #include <cstring>
 
 #include "FCIPCNames_internal.h"
@@ -12,12 +10,6 @@ namespace {
 
 // Browsers and proxies drop a feed that stays silent too long.
 constexpr guint kKeepAliveSeconds = 15;
-
-std::string Compact(const Json::Value& value) {
-  Json::StreamWriterBuilder writer;
-  writer["indentation"] = "";
-  return Json::writeString(writer, value);
-}
 
 // The signal as `zunde-cli monitor --json` prints it: the number, then the
 // three parameters (a missing one reads -1).
@@ -42,7 +34,7 @@ Json::Value EventJson(GVariant* parameters) {
 std::string SlowText(bool slow) {
   Json::Value state(Json::objectValue);
   state["slow"] = slow;
-  return "event: slow\ndata: " + Compact(state) + "\n\n";
+  return "event: slow\ndata: " + CompactJson(state) + "\n\n";
 }
 
 }  // namespace
@@ -80,7 +72,7 @@ void EventStream::SlowTurned(bool slow) {
 void EventStream::OnSignal(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
                            GVariant* parameters, gpointer self) {
   if (!g_variant_is_of_type(parameters, G_VARIANT_TYPE("(siay)"))) return;
-  static_cast<EventStream*>(self)->Broadcast("data: " + Compact(EventJson(parameters)) + "\n\n");
+  static_cast<EventStream*>(self)->Broadcast("data: " + CompactJson(EventJson(parameters)) + "\n\n");
 }
 
 void EventStream::OnFinished(SoupServerMessage* message, gpointer self) {

@@ -1,7 +1,5 @@
 #include "http_reply.h"
 
-#include <json/json.h>
-
 namespace zunde::service::http {
 
 void Guard(SoupServerMessage* message) {
@@ -18,11 +16,21 @@ void Send(SoupServerMessage* message, guint status, const char* contentType, con
   soup_server_message_set_response(message, contentType, SOUP_MEMORY_COPY, body.data(), body.size());
 }
 
+std::string CompactJson(const Json::Value& value) {
+  Json::StreamWriterBuilder writer;
+  writer["indentation"] = "";
+  return Json::writeString(writer, value);
+}
+
+void SendJson(SoupServerMessage* message, guint status, const Json::Value& value) {
+  Send(message, status, "application/json", CompactJson(value));
+}
+
 void Refuse(SoupServerMessage* message, guint status, const std::string& why) {
   Json::Value reply(Json::objectValue);
   reply["error"] = why;
   reply["ret"] = false;
-  Send(message, status, "application/json", Json::StyledWriter().write(reply));
+  SendJson(message, status, reply);
 }
 
 }  // namespace zunde::service::http

@@ -3,6 +3,7 @@
 #ifndef ZUNDE_SERVICE_HTTP_REPLY_H
 #define ZUNDE_SERVICE_HTTP_REPLY_H
 
+#include <json/json.h>
 #include <libsoup/soup.h>
 
 #include <string>
@@ -16,6 +17,11 @@ void Guard(SoupServerMessage* message);
 // Sets the status and the body, with headers that keep the page from being
 // framed, cached or read by another origin.
 void Send(SoupServerMessage* message, guint status, const char* contentType, const std::string& body);
+
+// One line of JSON, as the members answer.
+std::string CompactJson(const Json::Value& value);
+
+void SendJson(SoupServerMessage* message, guint status, const Json::Value& value);
 
 // A refusal: {"error": why, "ret": false} with a 4xx status.
 void Refuse(SoupServerMessage* message, guint status, const std::string& why);

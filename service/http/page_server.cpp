@@ -128,7 +128,9 @@ void PageServer::ServeEmit(SoupServerMessage* message) {
     event.params[static_cast<size_t>(i)] = param.isNull() ? -1 : param.asInt();
   }
   service_.Emit(event);
-  Send(message, SOUP_STATUS_OK, "application/json", "{\n   \"ret\" : true\n}\n");
+  Json::Value reply(Json::objectValue);
+  reply["ret"] = true;
+  SendJson(message, SOUP_STATUS_OK, reply);
 }
 
 }  // namespace zunde::service::http
