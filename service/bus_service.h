@@ -30,8 +30,6 @@ class BusService {
   // Answers a request that came by another way than the bus (the page), at
   // once, and sends the events of its change as a bus call's would be.
   std::string Answer(const std::string& member, const std::string& payload);
-  // Broadcasts one "Event" signal, as after a change.
-  void Emit(const Event& event);
   // The connection to the bus; null before Start.
   GDBusConnection* Connection() const { return connection_; }
   bool Slow() const { return dispatcher_.Runtime().slow; }
@@ -46,6 +44,7 @@ class BusService {
                            GVariant* parameters, GDBusMethodInvocation* invocation, gpointer self);
   static gboolean OnDelayElapsed(gpointer delayed);
   void Handle(GVariant* parameters, GDBusMethodInvocation* invocation);
+  void Emit(const Event& event);
 
   Dispatcher& dispatcher_;
   int slowReplyMs_;

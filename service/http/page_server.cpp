@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "FCIPCManager.h"
 #include "http_reply.h"
 #include "page_assets.h"
 
@@ -119,15 +120,20 @@ void PageServer::ServeEmit(SoupServerMessage* message) {
   if (!ReadsAsRequest(RequestBody(message), body) || !body["event"].isInt()) {
     return Refuse(message, SOUP_STATUS_BAD_REQUEST, "the request needs \"event\", an integer");
   }
-  Event event{body["event"].asInt()};
-  for (int i = 0; i < 3; ++i) {
-    const Json::Value& param = body["param" + std::to_string(i + 1)];
+  FCMessageBuffer payload;
+  for (int i = 1; i <= 3; ++i) {
+    const Json::Value& param = body["param" + std::to_string(i)];
     if (!param.isNull() && !param.isInt()) {
-      return Refuse(message, SOUP_STATUS_BAD_REQUEST, "\"param" + std::to_string(i + 1) + "\" must be an integer");
+      return Refuse(message, SOUP_STATUS_BAD_REQUEST, "\"param" + std::to_string(i) + "\" must be an integer");
     }
-    event.params[static_cast<size_t>(i)] = param.isNull() ? -1 : param.asInt();
+    payload.PushInt(param.isNull() ? -1 : param.asInt());
   }
-  service_.Emit(event);
+  // The library's own sender, as zunde-cli emit uses: what the page sends is
+  // what an application's test would.
+  auto* sender = static_cast<FCIPCManager*>(FIIPCManager::GetInstance());
+  if (!sender->m_Send(std::string(), FC_IPC_EVENT, body["event"].asInt(), payload)) {
+    return Refuse(message, SOUP_STATUS_SERVICE_UNAVAILABLE, "the signal could not be sent");
+  }
   Json::Value reply(Json::objectValue);
   reply["ret"] = true;
   SendJson(message, SOUP_STATUS_OK, reply);
