@@ -25,7 +25,8 @@ int ReportUnreachable() {
   const char* bus = std::getenv("DBUS_SYSTEM_BUS_ADDRESS");
   std::fprintf(stderr,
                "zunde-cli: zunde-service does not answer on the bus %s; start it with "
-               "`zunde-service --data-dir DIR` on that bus (or run scripts/demo.sh)\n",
+               "`zunde-service --data-dir DIR` on that bus, or keep one running with "
+               "`eval \"$(scripts/dev-env.sh start)\"` (installed: zunde-dev-env)\n",
                bus && *bus ? bus : "(the system bus)");
   return kUnreachable;
 }

@@ -21,7 +21,10 @@ int main() {
   const int now = static_cast<int>(std::time(nullptr));
   FCFilterCriteria noFilter;
   std::map<std::string, std::vector<FCRemoteProgram> > programs;
-  catalogue->GetProgramMap(activity, ids, now, 1, noFilter, programs);
+  if (!catalogue->GetProgramMap(activity, ids, now, 1, noFilter, programs)) {
+    std::cerr << "no programme guide: the service did not answer or has none\n";
+    return 1;
+  }
 
   for (const FCRemoteChannel& channel : channels) {
     const std::vector<FCRemoteProgram>& onNow = programs[channel.str_program_source_id];

@@ -33,8 +33,7 @@ Dispatcher& TheDispatcher() {
 const std::vector<std::string>& MemberNames() {
   static const std::vector<std::string> names = [] {
     std::vector<std::string> all;
-    for (const MemberTable* table : {&EntryMembers(), &EnvironmentMembers(), &SetTopBoxMembers(), &OperatorMembers(),
-                                     &MatchFinderMembers(), &BroadcastMembers(), &VirtualChannelMembers()}) {
+    for (const MemberTable* table : AllMemberTables()) {
       for (const Member& member : *table) all.push_back(member.name);
     }
     return all;

@@ -2,18 +2,24 @@
 # The guided tour: installs what is missing, builds zunde-service and
 # zunde-cli, starts a private bus and the service on a temporary data
 # directory, and walks through every family with zunde-cli. Everything it
-# starts is stopped again on exit, also when interrupted.
+# starts is stopped again on exit, also when interrupted; scripts/dev-env.sh
+# start keeps a service running.
 #   scripts/demo.sh              build in build/
 #   ZUNDE_DEMO_BUILD=DIR scripts/demo.sh
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${ZUNDE_DEMO_BUILD:-$root/build}
 
-bash "$root/scripts/install-dependencies.sh"
-cmake -S "$root" -B "$build" >/dev/null
-cmake --build "$build" -j"$(nproc)" --target zunde-service zunde-cli >/dev/null
-
+bash "$root/scripts/install-dependencies.sh" --build
 work=$(mktemp -d)
+if ! { cmake -S "$root" -B "$build" && cmake --build "$build" -j"$(nproc)" --target zunde-service zunde-cli; } \
+  >"$work/build.log" 2>&1; then
+  cat "$work/build.log" >&2
+  echo "demo: the build failed (its output is above)" >&2
+  rm -rf "$work"
+  exit 1
+fi
+
 bus_pid="" service_pid="" monitor_pid=""
 stop() { # PID: ends a process this script started and waits for it
   if [ -n "$1" ] && kill -0 "$1" 2>/dev/null; then
@@ -39,7 +45,7 @@ wait_for() { # FILE TEXT: until FILE holds TEXT, at most ten seconds
   return 1
 }
 
-dbus-daemon --config-file="$root/tests/support/test-bus.conf" --nofork --nopidfile --print-address=3 \
+dbus-daemon --config-file="$root/service/packaging/private-bus.conf" --nofork --nopidfile --print-address=3 \
   3>"$work/bus-address" 2>"$work/bus.log" &
 bus_pid=$!
 wait_for "$work/bus-address" "unix:"
@@ -132,3 +138,4 @@ cli env get
 
 echo
 echo "Tour done; stopping zunde-service and the private bus."
+echo "To keep a service running for your own programs: eval \"\$(scripts/dev-env.sh start)\""

@@ -1,20 +1,29 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and testing need, only those
-# that are missing.
+# Installs the Debian packages that are missing, of one of two groups:
+#   scripts/install-dependencies.sh [--all]   building, testing, benchmarks,
+#                                              fuzzers, the ABI check and the
+#                                              page's browser test
+#   scripts/install-dependencies.sh --build   building and running the
+#                                              library, service and CLI
 set -euo pipefail
 
 packages=(
   build-essential cmake pkg-config
   libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev libsqlite3-dev
-  libcli11-dev
-  libsoup-3.0-dev
-  abigail-tools
+  libcli11-dev libsoup-3.0-dev
   dbus-daemon
-  googletest libgtest-dev libgmock-dev libbenchmark-dev
-  clang libclang-rt-dev
+  googletest libgtest-dev libgmock-dev
 )
 # Only the page's browser test needs these; it is skipped where they cannot be had.
-browser_packages=(chromium chromium-driver python3-selenium)
+browser_packages=()
+case "${1:---all}" in
+  --build) ;;
+  --all)
+    packages+=(libbenchmark-dev abigail-tools clang libclang-rt-dev)
+    browser_packages=(chromium chromium-driver python3-selenium)
+    ;;
+  *) echo "usage: $0 [--build|--all]" >&2; exit 2 ;;
+esac
 
 sudo_cmd=()
 if [ "$(id -u)" -ne 0 ]; then sudo_cmd=(sudo); fi
@@ -38,5 +47,7 @@ install_missing() {
 }
 
 install_missing "${packages[@]}"
-install_missing "${browser_packages[@]}" ||
-  echo "install-dependencies: no browser could be installed; the page's browser test will be skipped"
+if ((${#browser_packages[@]})); then
+  install_missing "${browser_packages[@]}" ||
+    echo "install-dependencies: no browser could be installed; the page's browser test will be skipped"
+fi

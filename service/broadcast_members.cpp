@@ -1,20 +1,20 @@
-// The broadcast family: the set's own services by genre, the navigation
-// mode and genre (kept in the store under "broadcast/navigation"), and the
-// meta programmes of a service. A genre is a genre id; "" stands for all.
+// The broadcast family: the set's services by genre (its own tuned services
+// and the virtual channels), the navigation mode and genre, and the meta
+// programmes of a service.
 #include <algorithm>
 #include <ctime>
 
 #include "FCMarshal.h"
 #include "FCRFNetworkChannelTable.h"
-#include "member_table.h"
+#include "handler_helpers.h"
+#include "navigation_state.h"
 #include "programmes.h"
+#include "stations.h"
 
 namespace zunde::service {
 namespace {
 
 using T = JsonType;
-
-const char kNavigationKey[] = "broadcast/navigation";
 
 std::string GenreOf(Request& request) {
   std::string genre;
@@ -22,69 +22,44 @@ std::string GenreOf(Request& request) {
   return genre;
 }
 
-std::vector<unsigned long long> ServicesOf(const Catalogue& catalogue, const std::string& genre) {
-  std::vector<unsigned long long> ids;
-  for (const BroadcastChannel& channel : catalogue.broadcast) {
-    if (genre.empty() || channel.genre == genre) ids.push_back(channel.serviceId);
-  }
-  return ids;
+BroadcastChannel StationOf(Request& request, unsigned long long id) {
+  const std::optional<BroadcastChannel> station = StationById(request.catalogue, id);
+  if (!station) throw BadRequest("no service " + std::to_string(id));
+  return *station;
 }
 
-const BroadcastChannel& ChannelOf(Request& request, unsigned long long id) {
-  const BroadcastChannel* channel = request.catalogue.BroadcastById(id);
-  if (channel == nullptr) throw BadRequest("no service " + std::to_string(id));
-  return *channel;
-}
-
-void ReplyProgramAt(Request& request, const BroadcastChannel& channel, time_t time, Json::Value& reply) {
+void ReplyProgramAt(Request& request, const BroadcastChannel& station, time_t time, Json::Value& reply) {
   Slot slot;
-  if (!request.catalogue.SlotAt(ScheduleKey(channel), channel.genre, time, request.catalogue.WindowEnd(), slot)) {
-    throw BadRequest("no programme on service " + std::to_string(channel.serviceId) + " at " + std::to_string(time));
+  if (!request.catalogue.SlotAt(ScheduleKey(station), station.genre, time, request.catalogue.WindowEnd(), slot)) {
+    throw BadRequest("no programme on service " + std::to_string(station.serviceId) + " at " + std::to_string(time));
   }
-  FCMarshal::FCRemoteProgramToJson(BroadcastProgram(channel, slot), reply);
+  FCMarshal::FCRemoteProgramToJson(BroadcastProgram(station, slot), reply);
   Succeed(reply);
 }
 
 // --- navigation ---
 
-Json::Value Navigation(Request& request) {
-  Json::Value doc = request.store.Get(kNavigationKey);
-  if (doc.isNull()) {
-    FCMarshal::NavigationModeToJson(0, doc);
-    FCMarshal::GenreToJson("", doc);
-  }
-  return doc;
-}
-
 void SetMode(Request& request, Json::Value& reply) {
-  int mode = 0;
-  FCMarshal::JsonToNavigationMode(request.body, mode);
-  Json::Value doc = Navigation(request);
-  FCMarshal::NavigationModeToJson(mode, doc);
-  request.store.Put(kNavigationKey, doc);
+  Navigation navigation = LoadNavigation(request.store);
+  FCMarshal::JsonToNavigationMode(request.body, navigation.mode);
+  SaveNavigation(request.store, navigation);
   Succeed(reply);
 }
 
 void GetMode(Request& request, Json::Value& reply) {
-  Json::Value doc = Navigation(request);
-  int mode = 0;
-  FCMarshal::JsonToNavigationMode(doc, mode);
-  FCMarshal::NavigationModeToJson(mode, reply);
+  FCMarshal::NavigationModeToJson(LoadNavigation(request.store).mode, reply);
   Succeed(reply);
 }
 
 void SetGenre(Request& request, Json::Value& reply) {
-  Json::Value doc = Navigation(request);
-  FCMarshal::GenreToJson(GenreOf(request), doc);
-  request.store.Put(kNavigationKey, doc);
+  Navigation navigation = LoadNavigation(request.store);
+  navigation.genre = GenreOf(request);
+  SaveNavigation(request.store, navigation);
   Succeed(reply);
 }
 
 void GetGenre(Request& request, Json::Value& reply) {
-  Json::Value doc = Navigation(request);
-  std::string genre;
-  FCMarshal::JsonToGenre(doc, genre);
-  FCMarshal::GenreToJson(genre, reply);
+  FCMarshal::GenreToJson(LoadNavigation(request.store).genre, reply);
   Succeed(reply);
 }
 
@@ -93,7 +68,7 @@ void GetGenre(Request& request, Json::Value& reply) {
 void MapByGenre(Request& request, Json::Value& reply) {
   const std::string genre = GenreOf(request);
   FCRFNetworkChannelTable table;
-  for (unsigned long long id : ServicesOf(request.catalogue, genre)) table.AppendRFNetworkChannel(id);
+  for (unsigned long long id : StationsOfGenre(request.catalogue, genre)) table.AppendRFNetworkChannel(id);
   FCMarshal::GenreToJson(genre, reply);
   FCMarshal::RFNetworkChannelTableToJson(table, reply);
   Succeed(reply);
@@ -102,7 +77,7 @@ void MapByGenre(Request& request, Json::Value& reply) {
 // The next service of the genre after the current one, wrapping round; the
 // first (or last) when the current one is not of the genre.
 void Step(Request& request, Json::Value& reply, bool up) {
-  std::vector<unsigned long long> ids = ServicesOf(request.catalogue, GenreOf(request));
+  std::vector<unsigned long long> ids = StationsOfGenre(request.catalogue, GenreOf(request));
   if (ids.empty()) throw BadRequest("no service of genre \"" + GenreOf(request) + "\"");
   if (!up) std::reverse(ids.begin(), ids.end());
   auto at = std::find(ids.begin(), ids.end(), ServiceIdOf(request));
@@ -115,28 +90,23 @@ void Up(Request& request, Json::Value& reply) { Step(request, reply, true); }
 void Down(Request& request, Json::Value& reply) { Step(request, reply, false); }
 
 void CountByGenre(Request& request, Json::Value& reply) {
-  FCMarshal::CountToJson(static_cast<int>(ServicesOf(request.catalogue, GenreOf(request)).size()), reply);
+  FCMarshal::CountToJson(static_cast<int>(StationsOfGenre(request.catalogue, GenreOf(request)).size()), reply);
   Succeed(reply);
 }
 
-// Counts per representative genre asked for (by rep id); without any, per
-// genre id of the catalogue.
+// Counts per representative genre asked for (by rep id, by its own genre id
+// list when it brings one); without any, per genre id of the catalogue.
 void CountByGenreList(Request& request, Json::Value& reply) {
   std::vector<FCRepGenreInfo> asked;
   FCMarshal::JsonToRepGenreList(request.body, asked);
   std::map<std::string, int> counts;
   for (const FCGenreInfo& genre : request.catalogue.genres) {
-    if (asked.empty()) counts[genre.str_id] = static_cast<int>(ServicesOf(request.catalogue, genre.str_id).size());
+    if (asked.empty()) counts[genre.str_id] = static_cast<int>(StationsOfGenre(request.catalogue, genre.str_id).size());
   }
   for (const FCRepGenreInfo& rep : asked) {
-    std::string list = rep.str_genre_id_list;
-    for (const FCRepGenreInfo& known : request.catalogue.repGenres) {
-      if (list.empty() && known.str_rep_id == rep.str_rep_id) list = known.str_genre_id_list;
-    }
-    int& count = counts[rep.str_rep_id];
-    for (const BroadcastChannel& channel : request.catalogue.broadcast) {
-      count += list.find("," + channel.genre + ",") != std::string::npos;
-    }
+    counts[rep.str_rep_id] = rep.str_genre_id_list.empty()
+                                 ? static_cast<int>(StationsOfGenre(request.catalogue, rep.str_rep_id).size())
+                                 : CountInGenreList(request.catalogue, rep.str_genre_id_list);
   }
   FCMarshal::CountMapToJson(counts, reply);
   Succeed(reply);
@@ -145,12 +115,11 @@ void CountByGenreList(Request& request, Json::Value& reply) {
 // --- meta programmes ---
 
 void Present(Request& request, Json::Value& reply) {
-  ReplyProgramAt(request, ChannelOf(request, ServiceIdOf(request)), std::time(nullptr), reply);
+  ReplyProgramAt(request, StationOf(request, ServiceIdOf(request)), std::time(nullptr), reply);
 }
 
-// Only the keys that place the programme are read, one by one, as the
-// record reads them: the record's own reader ends the process on a value of
-// the wrong type, while here jsoncpp's error refuses the request.
+// Only the keys that place the programme are read, as the record reads
+// them; their types were checked against the row.
 void Neighbour(Request& request, Json::Value& reply, bool next) {
   const Json::Value& body = request.body;
   const std::string programId = body["program id"].asString();
@@ -161,7 +130,7 @@ void Neighbour(Request& request, Json::Value& reply, bool next) {
     throw BadRequest("programme id \"" + programId + "\" names no service");
   }
   const time_t at = next ? static_cast<time_t>(start) + duration : static_cast<time_t>(start) - 1;
-  ReplyProgramAt(request, ChannelOf(request, std::stoull(key)), at, reply);
+  ReplyProgramAt(request, StationOf(request, std::stoull(key)), at, reply);
 }
 
 void Next(Request& request, Json::Value& reply) { Neighbour(request, reply, true); }
@@ -172,12 +141,12 @@ void ProgramMap(Request& request, Json::Value& reply) {
   unsigned int duration = 0;
   FCMarshal::JsonToStartTime(request.body, start);
   FCMarshal::JsonToDuration(request.body, duration);
-  const BroadcastChannel& channel = ChannelOf(request, ServiceIdOf(request));
+  const BroadcastChannel station = StationOf(request, ServiceIdOf(request));
   std::map<unsigned int, FCRemoteProgram> programs;
-  for (const Slot& slot : request.catalogue.SlotsBetween(ScheduleKey(channel), channel.genre, start,
+  for (const Slot& slot : request.catalogue.SlotsBetween(ScheduleKey(station), station.genre, start,
                                                          static_cast<time_t>(start) + duration,
                                                          request.catalogue.WindowEnd())) {
-    programs[slot.start] = BroadcastProgram(channel, slot);
+    programs[slot.start] = BroadcastProgram(station, slot);
   }
   FCMarshal::MetaProgramMapToJson(programs, reply);
   Succeed(reply);
@@ -187,25 +156,27 @@ void MetaExists(Request& request, Json::Value& reply) { reply["ret"] = !request.
 
 const RequiredKey kGenre{"genre", T::String};
 const RequiredKey kServiceId{"TCServiceId", T::String};
+const std::vector<RequiredKey> kPlacedProgramme{
+    {"program id", T::String}, {"utc start time", T::Int}, {"duration", T::Int}};
 
 }  // namespace
 
 const MemberTable& BroadcastMembers() {
   static const MemberTable table = {
-      {"SetNavigationMode", {{"navigation mode", T::Int}}, SetMode, true},
-      {"GetNavigationMode", {}, GetMode, false},
-      {"SetGenreForNavigation", {kGenre}, SetGenre, true},
-      {"GetGenreForNavigation", {}, GetGenre, false},
-      {"GetRFNetworkChannelMapByGenre", {kGenre}, MapByGenre, false},
-      {"GetRFNetworkChannelUpByGenre", {kGenre, kServiceId}, Up, false},
-      {"GetRFNetworkChannelDownByGenre", {kGenre, kServiceId}, Down, false},
-      {"GetRFNetworkChannelCountByGenre", {kGenre}, CountByGenre, false},
-      {"GetRFNetworkChannelCountByGenreList", {}, CountByGenreList, false},
-      {"GetPresentMetaProgram", {kServiceId}, Present, false},
-      {"GetNextMetaProgram", {}, Next, false},
-      {"GetPrevMetaProgram", {}, Previous, false},
-      {"GetMetaProgramMap", {kServiceId, {"start_time", T::UInt}, {"duration", T::UInt}}, ProgramMap, false},
-      {"CheckMetaProgramExist", {}, MetaExists, false},
+      {"SetNavigationMode", {{"navigation mode", T::Int}}, SetMode, kChanges},
+      {"GetNavigationMode", {}, GetMode, kReads},
+      {"SetGenreForNavigation", {kGenre}, SetGenre, kChanges},
+      {"GetGenreForNavigation", {}, GetGenre, kReads},
+      {"GetRFNetworkChannelMapByGenre", {kGenre}, MapByGenre, kKeepsAnswer},
+      {"GetRFNetworkChannelUpByGenre", {kGenre, kServiceId}, Up, kReads},
+      {"GetRFNetworkChannelDownByGenre", {kGenre, kServiceId}, Down, kReads},
+      {"GetRFNetworkChannelCountByGenre", {kGenre}, CountByGenre, kReads},
+      {"GetRFNetworkChannelCountByGenreList", {}, CountByGenreList, kReads},
+      {"GetPresentMetaProgram", {kServiceId}, Present, kReads},
+      {"GetNextMetaProgram", kPlacedProgramme, Next, kReads},
+      {"GetPrevMetaProgram", kPlacedProgramme, Previous, kReads},
+      {"GetMetaProgramMap", {kServiceId, {"start_time", T::UInt}, {"duration", T::UInt}}, ProgramMap, kKeepsAnswer},
+      {"CheckMetaProgramExist", {}, MetaExists, kReads},
   };
   return table;
 }

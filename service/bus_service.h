@@ -33,6 +33,7 @@ class BusService {
   // The connection to the bus; null before Start.
   GDBusConnection* Connection() const { return connection_; }
   bool Slow() const { return dispatcher_.Runtime().slow; }
+  // Whether `member` changes anything, on disk or in memory.
   bool ChangesState(const std::string& member) const;
   bool Knows(const std::string& member) const;
   // Runs after each answer that turned the slow switch.

@@ -116,9 +116,15 @@ struct CatalogueError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Reads and checks `path`; throws CatalogueError naming the first problem
-// and where it is.
-Catalogue LoadCatalogue(const std::string& path);
+// Fills what a catalogue file `doc` leaves out: top-level members from
+// `defaults` (a document of the default set), and every field of a line-up,
+// channel, broadcast or virtual channel element but those that identify it.
+void FillLeftOut(Json::Value& doc, const Json::Value& defaults);
+
+// Reads and checks `path`, what it leaves out taken from the default set of
+// `lineupSize` stations; throws CatalogueError naming the first problem and
+// where it is.
+Catalogue LoadCatalogue(const std::string& path, int lineupSize = 60);
 
 }  // namespace zunde::service
 

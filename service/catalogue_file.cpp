@@ -1,5 +1,6 @@
 // The catalogue's file form. Records travel in the library's own JSON forms
-// (their ToJson and FromJson); the rest is plain members. A file is checked
+// (their ToJson and FromJson); the rest is plain members. What a file leaves
+// out is filled in first (catalogue_file_defaults.cpp); then it is checked
 // against the written default set: every member that the default has must
 // be there with the same JSON type, and each element of an array must have
 // the shape of the default's first element.
@@ -125,6 +126,18 @@ void CheckLike(const Json::Value& example, const Json::Value& given, const std::
   }
 }
 
+// jsoncpp spreads a parse error over several indented lines; the log gets one.
+std::string OneLine(const std::string& text) {
+  std::istringstream lines(text);
+  std::string line, joined;
+  while (std::getline(lines, line)) {
+    const size_t start = line.find_first_not_of(' ');
+    if (start == std::string::npos) continue;
+    joined += (joined.empty() ? "" : " ") + line.substr(start);
+  }
+  return joined;
+}
+
 unsigned long long ServiceId(const Json::Value& text, const std::string& place) {
   const std::string digits = text.asString();
   if (digits.empty() || digits.find_first_not_of("0123456789") != std::string::npos) {
@@ -203,15 +216,18 @@ Catalogue FromDocument(Json::Value& doc) {
 
 Json::Value CatalogueToJson(const Catalogue& catalogue) { return Document(catalogue); }
 
-Catalogue LoadCatalogue(const std::string& path) {
+Catalogue LoadCatalogue(const std::string& path, int lineupSize) {
   std::ifstream file(path);
   if (!file) throw CatalogueError("cannot read " + path);
   std::stringstream text;
   text << file.rdbuf();
   Json::Value doc;
   Json::Reader reader;
-  if (!reader.parse(text.str(), doc, false)) throw CatalogueError("not JSON: " + reader.getFormattedErrorMessages());
+  if (!reader.parse(text.str(), doc, false)) {
+    throw CatalogueError("not JSON: " + OneLine(reader.getFormattedErrorMessages()));
+  }
   static const Json::Value example = CatalogueToJson(DefaultCatalogue(2));
+  FillLeftOut(doc, CatalogueToJson(DefaultCatalogue(lineupSize)));
   CheckLike(example, doc, "");
   CheckValues(doc);
   Catalogue catalogue = FromDocument(doc);

@@ -1,6 +1,7 @@
 #include "dispatcher.h"
 
-#include "FCMarshal.h"
+#include <memory>
+#include <sstream>
 
 namespace zunde::service {
 namespace {
@@ -53,16 +54,51 @@ void CheckKeys(const Member& member, const Json::Value& body) {
   }
 }
 
-std::string Write(const Json::Value& reply) { return Json::StyledWriter().write(reply); }
+// Compact: the library reads any JSON, and indentation only costs bytes on
+// the bus and time on both ends.
+std::string Write(const Json::Value& reply) {
+  static const std::unique_ptr<Json::StreamWriter> writer = [] {
+    Json::StreamWriterBuilder builder;
+    builder["indentation"] = "";
+    return std::unique_ptr<Json::StreamWriter>(builder.newStreamWriter());
+  }();
+  std::ostringstream text;
+  writer->write(reply, &text);
+  return text.str();
+}
+
+std::string Refusal(const std::string& why) {
+  Json::Value reply(Json::objectValue);
+  reply["ret"] = false;
+  reply["error"] = why;
+  return Write(reply);
+}
 
 }  // namespace
 
+std::vector<const MemberTable*> AllMemberTables() {
+  return {&EntryMembers(),
+          &EnvironmentMembers(),
+          &SetTopBoxActivityMembers(),
+          &SetTopBoxChannelMapMembers(),
+          &SetTopBoxProgramMapMembers(),
+          &OperatorCatalogueMembers(),
+          &OperatorRecommendationMembers(),
+          &MatchFinderMembers(),
+          &BroadcastMembers(),
+          &VirtualChannelMembers()};
+}
+
 Dispatcher::Dispatcher(Store& store, const Catalogue& catalogue, const StorageLimits& limits)
-    : store_(store), catalogue_(catalogue), limits_(limits) {
-  for (const MemberTable* table : {&EntryMembers(), &EnvironmentMembers(), &SetTopBoxMembers(), &OperatorMembers(),
-                                   &MatchFinderMembers(), &BroadcastMembers(), &VirtualChannelMembers()}) {
+    : store_(store), catalogue_(&catalogue), limits_(limits) {
+  for (const MemberTable* table : AllMemberTables()) {
     for (const Member& member : *table) members_[member.name] = &member;
   }
+}
+
+void Dispatcher::ReplaceCatalogue(const Catalogue& catalogue) {
+  catalogue_ = &catalogue;
+  kept_.Forget();
 }
 
 const Member* Dispatcher::Find(const std::string& member) const {
@@ -70,55 +106,50 @@ const Member* Dispatcher::Find(const std::string& member) const {
   return found == members_.end() ? nullptr : found->second;
 }
 
-void Dispatcher::Run(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events) {
-  Request request{body, store_, runtime_, events, catalogue_, limits_};
-  if (!member.changesState) {
+bool Dispatcher::NeverDelayed(const std::string& member) const {
+  const Member* found = Find(member);
+  return found != nullptr && (found->flags & kNeverDelayed) != 0;
+}
+
+void Dispatcher::Handle(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events) {
+  Request request{body, store_, runtime_, events, *catalogue_, limits_};
+  if ((member.flags & kChanges) == 0) {
     member.handler(request, reply);
     return;
   }
   Transaction transaction(store_);
   member.handler(request, reply);
   transaction.Commit();
+  kept_.Forget();
 }
 
-std::string Dispatcher::Answer(const std::string& member, const std::string& payload, std::vector<Event>& events) {
+std::string Dispatcher::Run(const Member& member, const std::string& payload, std::vector<Event>& events) {
+  Json::Value body = ParseRequest(payload);
+  CheckKeys(member, body);
   Json::Value reply(Json::objectValue);
-  std::vector<Event> raised;
-  try {
-    const Member* found = Find(member);
-    if (found == nullptr) throw BadRequest("unknown member \"" + member + "\"");
-    Json::Value body = ParseRequest(payload);
-    CheckKeys(*found, body);
-    Run(*found, body, reply, raised);
-    events.insert(events.end(), raised.begin(), raised.end());
-  } catch (const BadRequest& refused) {
-    reply = Json::Value(Json::objectValue);
-    reply["ret"] = false;
-    reply["error"] = refused.what();
-  } catch (const StoreError& failed) {
-    reply = Json::Value(Json::objectValue);
-    reply["ret"] = false;
-    reply["error"] = std::string("storage failed: ") + failed.what();
-  } catch (const std::exception& unreadable) {
-    // A value the records could not convert; the transaction was rolled back.
-    reply = Json::Value(Json::objectValue);
-    reply["ret"] = false;
-    reply["error"] = std::string("the request could not be read: ") + unreadable.what();
-  }
+  Handle(member, body, reply, events);
   return Write(reply);
 }
 
-void Succeed(Json::Value& reply) { reply["ret"] = true; }
-
-int CheckedActivity(int activity) {
-  if (activity < 0 || activity > 4) throw BadRequest("activity " + std::to_string(activity) + " is not 0 to 4");
-  return activity;
-}
-
-unsigned long long ServiceIdOf(Request& request) {
-  unsigned long long id = 0;
-  FCMarshal::VCJsonToServiceId(request.body, id);
-  return id;
+std::string Dispatcher::Answer(const std::string& member, const std::string& payload, std::vector<Event>& events) {
+  const Member* found = Find(member);
+  if (found == nullptr) return Refusal("unknown member \"" + member + "\"");
+  const bool keeps = (found->flags & kKeepsAnswer) != 0;
+  if (const std::string* kept = keeps ? kept_.Find(member, payload) : nullptr) return *kept;
+  std::vector<Event> raised;
+  try {
+    std::string answer = Run(*found, payload, raised);
+    events.insert(events.end(), raised.begin(), raised.end());
+    if (keeps) kept_.Keep(member, payload, answer);
+    return answer;
+  } catch (const BadRequest& refused) {
+    return Refusal(refused.what());
+  } catch (const StoreError& failed) {
+    return Refusal(std::string("storage failed: ") + failed.what());
+  } catch (const std::exception& unreadable) {
+    // A value the records could not convert; the transaction was rolled back.
+    return Refusal(std::string("the request could not be read: ") + unreadable.what());
+  }
 }
 
 }  // namespace zunde::service

@@ -1,12 +1,12 @@
 // The entry's own member: "Reset" returns the whole state to the defaults.
-#include "member_table.h"
+#include "handler_helpers.h"
 
 namespace zunde::service {
 namespace {
 
 void ResetEverything(Request& request, Json::Value& reply) {
   request.store.EraseAll();
-  request.events.push_back({kEventStateReset, {0, -1, -1}});
+  Raise(request, kEventStateReset, 0);
   Succeed(reply);
 }
 
@@ -14,7 +14,7 @@ void ResetEverything(Request& request, Json::Value& reply) {
 
 const MemberTable& EntryMembers() {
   static const MemberTable table = {
-      {"Reset", {}, ResetEverything, true},
+      {"Reset", {}, ResetEverything, kChanges},
   };
   return table;
 }

@@ -1,51 +1,32 @@
 // The remote content environment: country and language, recommendation
 // type, personal user id, access token, and the activity that a TV source
-// and mode stand for. The document is kept in the wire's own vocabulary.
+// and mode stand for.
 #include "FCMarshal.h"
-#include "member_table.h"
+#include "environment_state.h"
+#include "handler_helpers.h"
 #include "set_top_box_state.h"
 
 namespace zunde::service {
 namespace {
 
-const char kEnvironmentKey[] = "environment";
-
 // The activity reported for a source that no set-top box is bound to: the
 // TV's own tuner.
 const int kTunerActivity = 5;
 
-struct Environment {
-  std::string country = "US";
-  std::string language = "en";
-  eRecommendTypeOption recommend = static_cast<eRecommendTypeOption>(0);
-  std::string userId;
-  std::string token;
-};
-
-Environment Load(const Store& store) {
-  Environment env;
-  Json::Value doc = store.Get(kEnvironmentKey);
-  if (doc.isNull()) return env;
-  FCMarshal::JsonToCountryAndLang(doc, env.country, env.language);
-  FCMarshal::JsonToRecommendTypeOption(doc, env.recommend);
-  FCMarshal::JsonToUserID(doc, env.userId);
-  FCMarshal::JsonToatoken(doc, env.token);
-  return env;
-}
-
-void Save(Request& request, const Environment& env, EnvironmentPart changed) {
-  Json::Value doc(Json::objectValue);
-  FCMarshal::CountryAndLangToJson(env.country, env.language, doc);
-  FCMarshal::RecommendTypeOptionToJson(env.recommend, doc);
-  FCMarshal::UserIDToJson(env.userId, doc);
-  FCMarshal::atokenToJson(env.token, doc);
-  request.store.Put(kEnvironmentKey, doc);
-  request.events.push_back({kEventEnvironmentChanged, {changed, -1, -1}});
+// Loads the environment, lets `change` read the request into it, saves it
+// and tells of the part changed.
+template <typename Change>
+void ChangeEnvironment(Request& request, Json::Value& reply, EnvironmentPart changed, Change change) {
+  Environment env = LoadEnvironment(request.store);
+  change(env);
+  SaveEnvironment(request.store, env);
+  Raise(request, kEventEnvironmentChanged, changed);
+  Succeed(reply);
 }
 
 void Reset(Request& request, Json::Value& reply) {
-  request.store.Erase(kEnvironmentKey);
-  request.events.push_back({kEventStateReset, {1, -1, -1}});
+  EraseEnvironment(request.store);
+  Raise(request, kEventStateReset, 1);
   Succeed(reply);
 }
 
@@ -55,14 +36,12 @@ void ToggleTimeoutTest(Request& request, Json::Value& reply) {
 }
 
 void SetEnv(Request& request, Json::Value& reply) {
-  Environment env = Load(request.store);
-  FCMarshal::JsonToCountryAndLang(request.body, env.country, env.language);
-  Save(request, env, kCountryAndLanguage);
-  Succeed(reply);
+  ChangeEnvironment(request, reply, kCountryAndLanguage,
+                    [&](Environment& env) { FCMarshal::JsonToCountryAndLang(request.body, env.country, env.language); });
 }
 
 void GetEnv(Request& request, Json::Value& reply) {
-  const Environment env = Load(request.store);
+  const Environment env = LoadEnvironment(request.store);
   FCMarshal::CountryAndLangToJson(env.country, env.language, reply);
   Succeed(reply);
 }
@@ -78,34 +57,26 @@ void GetActivityBySource(Request& request, Json::Value& reply) {
 }
 
 void SetRecommendType(Request& request, Json::Value& reply) {
-  Environment env = Load(request.store);
-  FCMarshal::JsonToRecommendTypeOption(request.body, env.recommend);
-  Save(request, env, kRecommendType);
-  Succeed(reply);
+  ChangeEnvironment(request, reply, kRecommendType,
+                    [&](Environment& env) { FCMarshal::JsonToRecommendTypeOption(request.body, env.recommend); });
 }
 
 void GetRecommendType(Request& request, Json::Value& reply) {
-  FCMarshal::RecommendTypeOptionToJson(Load(request.store).recommend, reply);
+  FCMarshal::RecommendTypeOptionToJson(LoadEnvironment(request.store).recommend, reply);
   Succeed(reply);
 }
 
 void SetUserId(Request& request, Json::Value& reply) {
-  Environment env = Load(request.store);
-  FCMarshal::JsonToUserID(request.body, env.userId);
-  Save(request, env, kUserId);
-  Succeed(reply);
+  ChangeEnvironment(request, reply, kUserId, [&](Environment& env) { FCMarshal::JsonToUserID(request.body, env.userId); });
 }
 
 void GetUserId(Request& request, Json::Value& reply) {
-  FCMarshal::UserIDToJson(Load(request.store).userId, reply);
+  FCMarshal::UserIDToJson(LoadEnvironment(request.store).userId, reply);
   Succeed(reply);
 }
 
 void SetToken(Request& request, Json::Value& reply) {
-  Environment env = Load(request.store);
-  FCMarshal::JsonToatoken(request.body, env.token);
-  Save(request, env, kAccessToken);
-  Succeed(reply);
+  ChangeEnvironment(request, reply, kAccessToken, [&](Environment& env) { FCMarshal::JsonToatoken(request.body, env.token); });
 }
 
 using T = JsonType;
@@ -114,19 +85,19 @@ using T = JsonType;
 
 const MemberTable& EnvironmentMembers() {
   static const MemberTable table = {
-      {"FCRemoteContent_Reset", {}, Reset, true},
-      {"ToggleZundeTimeoutTest", {{"ret", T::Bool}}, ToggleTimeoutTest, false},
-      {"SetRemoteContentEnv", {{"country", T::String}, {"language", T::String}}, SetEnv, true},
-      {"GetRemoteContentEnv", {}, GetEnv, false},
+      {"FCRemoteContent_Reset", {}, Reset, kChanges},
+      {"ToggleZundeTimeoutTest", {{"ret", T::Bool}}, ToggleTimeoutTest, kNeverDelayed | kTurnsSwitch},
+      {"SetRemoteContentEnv", {{"country", T::String}, {"language", T::String}}, SetEnv, kChanges},
+      {"GetRemoteContentEnv", {}, GetEnv, kReads},
       {"GetRemoteContentActivityByTVSourceAndTSTVMode",
        {{"in_source", T::Int}, {"in_antennaMode", T::Int}, {"in_serviceMode", T::Int}},
        GetActivityBySource,
-       false},
-      {"SetRecommendTypeOption", {{"in_recommend_type", T::Int}}, SetRecommendType, true},
-      {"GetRecommendTypeOption", {}, GetRecommendType, false},
-      {"SetPersonalUserID", {{"in_user_id", T::String}}, SetUserId, true},
-      {"GetPersonalUserID", {}, GetUserId, false},
-      {"SetAToken", {{"atoken", T::String}}, SetToken, true},
+       kReads},
+      {"SetRecommendTypeOption", {{"in_recommend_type", T::Int}}, SetRecommendType, kChanges},
+      {"GetRecommendTypeOption", {}, GetRecommendType, kReads},
+      {"SetPersonalUserID", {{"in_user_id", T::String}}, SetUserId, kChanges},
+      {"GetPersonalUserID", {}, GetUserId, kReads},
+      {"SetAToken", {{"atoken", T::String}}, SetToken, kChanges},
   };
   return table;
 }

@@ -3,9 +3,9 @@
 //
 // One GLib main loop does everything: it owns the name, answers calls, sends
 // events and holds back slow answers. SIGTERM and SIGINT end the loop; the
-// held-back answers are then sent and the store closed.
+// held-back answers are then sent and the store closed. SIGHUP reloads the
+// catalogue.
 #include <glib-unix.h>
-#include <sys/stat.h>
 
 #include <cerrno>
 #include <cstdio>
@@ -16,6 +16,7 @@
 
 #include "bus_service.h"
 #include "catalogue.h"
+#include "catalogue_sources.h"
 #include "options.h"
 #include "page_server.h"
 
@@ -30,33 +31,27 @@ bool MakeFolder(const std::string& dir) {
   return false;
 }
 
-bool Exists(const std::string& path) {
-  struct stat info {};
-  return stat(path.c_str(), &info) == 0;
-}
-
-// The catalogue the options name, else the data folder's, else the
-// built-in set; its guide window starts from now.
-std::unique_ptr<Catalogue> ChooseCatalogue(const Options& options) {
-  std::string path = options.catalogue;
-  if (path.empty() && Exists(options.dataDir + "/catalogue.json")) path = options.dataDir + "/catalogue.json";
-  std::unique_ptr<Catalogue> catalogue;
-  try {
-    catalogue = std::make_unique<Catalogue>(path.empty() ? DefaultCatalogue(options.lineupSize) : LoadCatalogue(path));
-  } catch (const CatalogueError& refused) {
-    std::fprintf(stderr, "zunde-service: catalogue %s: %s\n", path.c_str(), refused.what());
-    return nullptr;
-  }
-  catalogue->now = std::time(nullptr);
-  return catalogue;
-}
-
 int WriteDefaultCatalogue(const Options& options) {
   std::ofstream file(options.writeDefaultCatalogue);
   file << Json::StyledWriter().write(CatalogueToJson(DefaultCatalogue(options.lineupSize)));
   if (file.flush()) return 0;
   std::fprintf(stderr, "zunde-service: cannot write %s\n", options.writeDefaultCatalogue.c_str());
   return 1;
+}
+
+// The dispatcher keeps a reference to the catalogue, which stays valid:
+// the reload replaces its contents between two requests, on this loop, and
+// the dispatcher is told so that it forgets the answers it kept.
+struct Reload {
+  const Options& options;
+  Catalogue& catalogue;
+  Dispatcher& dispatcher;
+};
+
+gboolean OnHangup(gpointer reload) {
+  auto* r = static_cast<Reload*>(reload);
+  if (ReloadCatalogue(r->options, r->catalogue)) r->dispatcher.ReplaceCatalogue(r->catalogue);
+  return G_SOURCE_CONTINUE;
 }
 
 gboolean Quit(gpointer loop) {
@@ -78,7 +73,7 @@ bool StartPage(const Options& options, BusService& service, std::unique_ptr<http
 
 int Serve(const Options& options) {
   if (!MakeFolder(options.dataDir)) return 1;
-  const std::unique_ptr<Catalogue> catalogue = ChooseCatalogue(options);
+  const std::unique_ptr<Catalogue> catalogue = LoadCatalogueSources(options);
   if (!catalogue) return 1;
   std::unique_ptr<Store> store;
   try {
@@ -112,6 +107,8 @@ int Serve(const Options& options) {
         });
     g_unix_signal_add(SIGTERM, Quit, loop);
     g_unix_signal_add(SIGINT, Quit, loop);
+    Reload reload{options, *catalogue, dispatcher};
+    g_unix_signal_add(SIGHUP, OnHangup, &reload);
     if (service.Start() && StartPage(options, service, page)) {
       g_main_loop_run(loop);
     } else {

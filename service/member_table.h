@@ -1,8 +1,8 @@
-// How a family of members is declared: one table per family, one row per
-// member, in the manner of a bus vtable. A row names the member, the keys
-// (and their JSON types) its request must hold, the handler, and whether it
-// changes state; the dispatcher checks the keys before the handler runs and
-// wraps a state change in one transaction, committed before the answer.
+// How a family of members is declared: one table per topic, one row per
+// member, in the manner of a bus vtable. A row names the member, every key
+// (and its JSON type) its handler reads, the handler, and its flags; the
+// dispatcher checks the keys before the handler runs and wraps a state
+// change in one transaction, committed before the answer.
 #ifndef ZUNDE_SERVICE_MEMBER_TABLE_H
 #define ZUNDE_SERVICE_MEMBER_TABLE_H
 
@@ -50,30 +50,38 @@ struct BadRequest : std::runtime_error {
 // Fills `reply` (its "ret" included) or throws BadRequest.
 using Handler = void (*)(Request& request, Json::Value& reply);
 
+// What a row promises about its member.
+enum RowFlags : unsigned {
+  kReads = 0,            // reads state only
+  kChanges = 1,          // changes state: runs in a transaction, and forgets kept answers
+  kNeverDelayed = 2,     // answered at once even while the slow switch is on
+  kKeepsAnswer = 4,      // its answer depends on the request, the state and the catalogue only
+  kTurnsSwitch = 8,      // changes what is kept in memory only (RuntimeState), so needs no transaction
+};
+
 struct Member {
   const char* name;
   std::vector<RequiredKey> keys;
   Handler handler;
-  bool changesState;
+  unsigned flags;
 };
 
 using MemberTable = std::vector<Member>;
 
-// The families.
+// The tables, by family and topic.
 const MemberTable& EntryMembers();
 const MemberTable& EnvironmentMembers();
-const MemberTable& SetTopBoxMembers();
-const MemberTable& OperatorMembers();
+const MemberTable& SetTopBoxActivityMembers();
+const MemberTable& SetTopBoxChannelMapMembers();
+const MemberTable& SetTopBoxProgramMapMembers();
+const MemberTable& OperatorCatalogueMembers();
+const MemberTable& OperatorRecommendationMembers();
 const MemberTable& MatchFinderMembers();
 const MemberTable& BroadcastMembers();
 const MemberTable& VirtualChannelMembers();
 
-// Shared by the handlers.
-void Succeed(Json::Value& reply);
-// Throws BadRequest when `activity` is not 0 to 4.
-int CheckedActivity(int activity);
-// The service id under "TCServiceId".
-unsigned long long ServiceIdOf(Request& request);
+// Every table above, in the order they are listed.
+std::vector<const MemberTable*> AllMemberTables();
 
 }  // namespace zunde::service
 

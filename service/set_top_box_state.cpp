@@ -5,47 +5,61 @@
 namespace zunde::service {
 namespace {
 
-std::string BoxKey(int activity) { return "activity/" + std::to_string(activity); }
+std::string SettingsKey(int activity) { return "activity/" + std::to_string(activity); }
+std::string ChannelsKey(int activity) { return "channels/" + std::to_string(activity); }
 
 const char kProgramPrefix[] = "programs/";
 
 }  // namespace
 
-SetTopBox LoadSetTopBox(const Store& store, int activity) {
-  SetTopBox box;
-  Json::Value doc = store.Get(BoxKey(activity));
-  if (doc.isNull()) return box;
-  FCMarshal::JsonToSource(doc, box.source);
-  FCMarshal::JsonToZipCode(doc, box.zipCode);
-  FCMarshal::JsonToHeadEndID(doc, box.headEndId);
-  FCMarshal::JsonToDeviceType(doc, box.deviceType);
-  FCMarshal::JsonToLocation(doc, box.location);
+SetTopBoxSettings LoadSettings(const Store& store, int activity) {
+  SetTopBoxSettings settings;
+  Json::Value doc = store.Get(SettingsKey(activity));
+  if (doc.isNull()) return settings;
+  FCMarshal::JsonToSource(doc, settings.source);
+  FCMarshal::JsonToZipCode(doc, settings.zipCode);
+  FCMarshal::JsonToHeadEndID(doc, settings.headEndId);
+  FCMarshal::JsonToDeviceType(doc, settings.deviceType);
+  FCMarshal::JsonToLocation(doc, settings.location);
+  return settings;
+}
+
+void SaveSettings(Store& store, int activity, const SetTopBoxSettings& settings) {
+  Json::Value doc(Json::objectValue);
+  FCMarshal::SourceToJson(settings.source, doc);
+  FCMarshal::ZipCodeToJson(settings.zipCode, doc);
+  FCMarshal::HeadEndIDToJson(settings.headEndId, doc);
+  FCMarshal::DeviceTypeToJson(settings.deviceType, doc);
+  FCMarshal::LocationToJson(settings.location, doc);
+  store.Put(SettingsKey(activity), doc);
+}
+
+ChannelList LoadChannels(const Store& store, int activity) {
+  Json::Value doc = store.Get(ChannelsKey(activity));
+  if (doc.isNull()) return {};
   FCMBRNetworkChannelTable table;
   FCMarshal::JsonToMBRNetworkChannelTable(doc, table);
-  box.channels = table.GetNetworkChannelList();
-  return box;
+  return table.GetNetworkChannelList();
 }
 
-void SaveSetTopBox(Store& store, int activity, SetTopBox& box) {
-  box.channels.sort();
+void SaveChannels(Store& store, int activity, ChannelList& channels) {
+  channels.sort();
   FCMBRNetworkChannelTable table;
-  for (const FCMBRNetworkChannel& channel : box.channels) table.AppendNetworkChannel(channel);
+  for (const FCMBRNetworkChannel& channel : channels) table.AppendNetworkChannel(channel);
   Json::Value doc(Json::objectValue);
-  FCMarshal::SourceToJson(box.source, doc);
-  FCMarshal::ZipCodeToJson(box.zipCode, doc);
-  FCMarshal::HeadEndIDToJson(box.headEndId, doc);
-  FCMarshal::DeviceTypeToJson(box.deviceType, doc);
-  FCMarshal::LocationToJson(box.location, doc);
   FCMarshal::MBRNetworkChannelTableToJson(table, doc);
-  store.Put(BoxKey(activity), doc);
+  store.Put(ChannelsKey(activity), doc);
 }
 
-void EraseSetTopBox(Store& store, int activity) { store.Erase(BoxKey(activity)); }
+void EraseSetTopBox(Store& store, int activity) {
+  store.Erase(SettingsKey(activity));
+  store.Erase(ChannelsKey(activity));
+}
 
 int ActivityOfSource(const Store& store, int source) {
   if (source == -1) return -1;
   for (int activity = 0; activity < kActivityCount; ++activity) {
-    if (LoadSetTopBox(store, activity).source == source) return activity;
+    if (LoadSettings(store, activity).source == source) return activity;
   }
   return -1;
 }

@@ -18,6 +18,15 @@ const char* const kMigrations[] = {
     "INSERT INTO log (name, value) SELECT 'vc/kpi', value"
     "  FROM json_each((SELECT value FROM document WHERE key = 'vc/kpi')) ORDER BY key;"
     "DELETE FROM document WHERE key = 'vc/kpi'",
+    // 3: a set-top box's channel map moves out of its settings, so that a
+    // setting's change does not rewrite the map; the operator's guide and
+    // smart-personal activations, which nothing read, go.
+    "INSERT INTO document (key, value) SELECT 'channels/' || substr(key, 10),"
+    "  json_object('MBR channel table', json_extract(value, '$.\"MBR channel table\"'))"
+    "  FROM document WHERE key GLOB 'activity/[0-9]*'"
+    "  AND json_extract(value, '$.\"MBR channel table\"') IS NOT NULL;"
+    "UPDATE document SET value = json_remove(value, '$.\"MBR channel table\"') WHERE key GLOB 'activity/[0-9]*';"
+    "DELETE FROM document WHERE key GLOB 'operator/guide/*' OR key GLOB 'operator/smart personal/*'",
 };
 
 using Statement = std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)>;

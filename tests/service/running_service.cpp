@@ -36,6 +36,10 @@ int RunningService::Stop() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
+void RunningService::Signal(int signal) {
+  if (servicePid > 0) kill(servicePid, signal);
+}
+
 void RunningService::Kill() {
   if (servicePid <= 0) return;
   kill(servicePid, SIGKILL);

@@ -15,6 +15,8 @@ class RunningService {
   static int Stop();
   // SIGKILL, as a crash would.
   static void Kill();
+  // Sends `signal` and leaves it running.
+  static void Signal(int signal);
 };
 
 }  // namespace zunde::testing

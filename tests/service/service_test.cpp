@@ -207,25 +207,6 @@ TEST_F(Service, KillDuringABurstLosesNoAcknowledgedWrite) {
   EXPECT_GE(minor + 1, acknowledged);
 }
 
-TEST_F(Service, BadInputIsRefusedWithAnErrorAndTheServiceKeepsServing) {
-  const char* const rows[][3] = {
-      {"NoSuchMember", "{}", R"({"error":"unknown member \"NoSuchMember\"","ret":false})"},
-      {"SetRemoteContentEnv", "not json", R"({"error":"the request is not a JSON object","ret":false})"},
-      {"SetRemoteContentEnv", R"({"country": "XX"})", R"({"error":"missing key \"language\"","ret":false})"},
-      {"SetRecommendTypeOption", R"({"in_recommend_type": "2"})", R"({"error":"\"in_recommend_type\" must be an integer","ret":false})"},
-      {"ConstructMBRNetworkChannelMap", R"({"activityID": 9})", R"({"error":"activity 9 is not 0 to 4","ret":false})"},
-      {"AddFavoriteMBRNetworkChannel", R"({"activityID": 0, "favorite": 5, "m_major": 1, "m_minor": 0})", R"({"error":"favourite list 5 is not 0 to 4","ret":false})"},
-  };
-  for (const auto& row : rows) {
-    Json::Value answer;
-    Json::Reader().parse(Raw(row[0], row[1]), answer);
-    EXPECT_EQ(Json::FastWriter().write(answer), std::string(row[2]) + "\n");
-  }
-  std::string country, language;
-  EXPECT_TRUE(env.GetRemoteContentEnv(country, language));
-  EXPECT_EQ(country + language, "USen");
-}
-
 std::string received;
 int Record(int event, FSEventData data) {
   received = std::to_string(event) + ":" + std::to_string(data.param1) + "," + std::to_string(data.param2) + "," + std::to_string(data.param3);
@@ -247,8 +228,8 @@ TEST_F(Service, ASlowAnswerDoesNotHoldUpAnotherCaller) {
   const auto start = Clock::now();
   std::thread slow([&] { std::string user; EXPECT_TRUE(env.GetPersonalUserID(user)); slowDone = true; });
   std::this_thread::sleep_for(std::chrono::milliseconds(200));
-  EXPECT_EQ(Raw("ToggleZundeTimeoutTest", R"({"ret": false})"), "{\n   \"ret\" : true\n}\n");
-  EXPECT_EQ(Raw("GetPersonalUserID", ""), "{\n   \"in_user_id\" : \"\",\n   \"ret\" : true\n}\n");
+  EXPECT_EQ(Raw("ToggleZundeTimeoutTest", R"({"ret": false})"), R"({"ret":true})");
+  EXPECT_EQ(Raw("GetPersonalUserID", ""), R"({"in_user_id":"","ret":true})");
   EXPECT_FALSE(slowDone);
   slow.join();
   EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(1400));
@@ -256,8 +237,8 @@ TEST_F(Service, ASlowAnswerDoesNotHoldUpAnotherCaller) {
 
 // --- bounded tables, and a store that cannot be written ---
 
-const std::string kTrue = "{\n   \"ret\" : true\n}\n";
-std::string Refused(const std::string& error) { return "{\n   \"error\" : \"" + error + "\",\n   \"ret\" : false\n}\n"; }
+const std::string kTrue = R"({"ret":true})";
+std::string Refused(const std::string& error) { return R"({"error":")" + error + R"(","ret":false})"; }
 std::string Kpi(const std::string& name) { return Raw("SendLogKPI", R"({"KPIType": 1, "EventName": ")" + name + "\"}"); }
 std::string Env() {
   std::string country, language;
@@ -283,6 +264,18 @@ TEST_F(Service, AnOlderStoreKeepsItsUsageLog) {
       "INSERT INTO document VALUES ('vc/kpi', '[{\"EventName\": \"x\"}, {\"EventName\": \"y\"}]')");
   RunningService::Start(dataDir_);
   EXPECT_EQ(Sql("SELECT json_extract(value, '$.EventName') FROM log ORDER BY id"), " x y");
+}
+
+TEST_F(Service, AnOlderStoreKeepsItsSetTopBoxesAndTheirMaps) {
+  EXPECT_EQ(RunningService::Stop(), 0);
+  std::remove((dataDir_ + "/zunde-service.db").c_str());
+  Sql("CREATE TABLE document (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL);"
+      "CREATE TABLE log (id INTEGER PRIMARY KEY, name TEXT NOT NULL, value TEXT NOT NULL); PRAGMA user_version=2;"
+      "INSERT INTO document VALUES ('activity/0', '{\"source\": 7, \"zip code\": \"12345\","
+      " \"MBR channel table\": [{\"m_major\": 2, \"m_minor\": 1}]}')");
+  RunningService::Start(dataDir_);
+  EXPECT_EQ(Map(Query(0)), "1 2-1");
+  EXPECT_EQ(Str([](std::string& s) { return mbr.GetZipCode(A0, s); }), "1 12345");
 }
 
 // A store on a read-only medium: its file opened read-only.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <condition_variable>
-#include <cstdlib>
 #include <mutex>
 #include <vector>
 
@@ -36,9 +35,7 @@ class SparePool {
   DBusConnection* Take(DBusConnection* shared) {
     std::unique_lock<std::mutex> lock(mutex_);
     for (;;) {
-      // After exit has begun, calls queue on the shared connection as
-      // libdbus allows, however busy it is.
-      if (closed_ || SharedIsFree(shared)) return UseShared(shared);
+      if (SharedIsFree(shared)) return UseShared(shared);
       if (!idle_.empty()) {
         DBusConnection* spare = idle_.back();
         idle_.pop_back();
@@ -56,27 +53,25 @@ class SparePool {
   }
 
   void Give(DBusConnection* shared, DBusConnection* used) {
-    std::lock_guard<std::mutex> lock(mutex_);
     if (used == shared) {
+      std::lock_guard<std::mutex> lock(mutex_);
       ReleaseShared(shared);
-    } else if (closed_ || !dbus_connection_get_is_connected(used)) {
-      CloseSpare(used);
-      --open_;
-    } else {
-      DropUnreadMessages(used);
-      idle_.push_back(used);
+      freed_.notify_all();
+      return;
     }
-    freed_.notify_all();
-  }
-
-  // At exit: idle spares are closed, and those still carrying a call are
-  // closed when it ends.
-  void Close() {
-    std::lock_guard<std::mutex> lock(mutex_);
-    closed_ = true;
-    for (DBusConnection* spare : idle_) CloseSpare(spare);
-    open_ -= static_cast<int>(idle_.size());
-    idle_.clear();
+    // libdbus's own locks are never taken under ours.
+    const bool usable = dbus_connection_get_is_connected(used);
+    if (usable) DropUnreadMessages(used);
+    {
+      std::lock_guard<std::mutex> lock(mutex_);
+      if (usable) {
+        idle_.push_back(used);
+      } else {
+        --open_;
+      }
+      freed_.notify_all();
+    }
+    if (!usable) CloseSpare(used);
   }
 
  private:
@@ -112,17 +107,12 @@ class SparePool {
   std::vector<DBusConnection*> sharedInUse_;
   std::vector<DBusConnection*> idle_;
   int open_ = 0;
-  bool closed_ = false;
 };
 
 // Made on the first call and never destroyed, so that a call made while the
-// process exits still finds it; its spares are closed at exit.
+// process exits still finds it.
 SparePool& Spares() {
-  static SparePool* const pool = [] {
-    auto* made = new SparePool;
-    std::atexit([] { Spares().Close(); });
-    return made;
-  }();
+  static SparePool* const pool = new SparePool;
   return *pool;
 }
 

@@ -7,11 +7,13 @@
 // takes a spare private connection to the bus instead, and every call waits
 // only for its own reply.
 //
-// Spares are made on first need, kept for the next calls, and closed when the
-// process exits. There are at most kMaxSpareConnections; past that a call
-// waits until the shared connection or a spare is free. A spare that lost the
-// bus is dropped and made again when next needed; when none can be made, the
-// call goes on the shared connection as it would with no spares at all.
+// Spares are made on first need and kept for the next calls; they end with
+// the process, whose exit closes their sockets (closing them in an exit
+// handler would race with calls still in flight on other threads). There are
+// at most kMaxSpareConnections; past that a call waits until the shared
+// connection or a spare is free. A spare that lost the bus is closed and made
+// again when next needed; when none can be made, the call goes on the shared
+// connection as it would with no spares at all.
 //
 // The shared connection stays the one that receives signals, carries match
 // rules, and sends every call made while no other is in flight.

@@ -115,26 +115,27 @@ async function drawSetTopBox() {
 
 // Virtual channels are found as an application finds them: among the
 // services of the broadcast navigation, those the virtual family knows.
-let virtualIds = null;
-async function findVirtualIds() {
+let virtualChannels = null;
+async function findVirtualChannels() {
   const services = (await member("GetRFNetworkChannelMapByGenre", { genre: "" }))["service list"] || [];
   const found = [];
   for (let i = 0; i < services.length; i += 16) {
     await Promise.all(services.slice(i, i + 16).map(s => member("GetFeaturedVirtualChannelInfo", s)
-      .then(() => found.push(s.TCServiceId), () => {})));
+      .then(info => found.push({ id: s.TCServiceId, major: info.major, name: info.channel_name }), () => {})));
   }
   return found;
 }
 
 async function drawVirtual() {
-  virtualIds = virtualIds || await findVirtualIds();
-  const rows = await Promise.all(virtualIds.map(async id => {
-    const present = await member("GetPresentProgram", { TCServiceId: id }).catch(() => ({}));
-    const slot = await member("GetOnDemandIdentifier", { TCServiceId: id }).catch(() => ({}));
-    return [id, present.channel_name || "", present.title || "", slot.program_id || "(empty)"];
+  virtualChannels = virtualChannels || await findVirtualChannels();
+  const rows = await Promise.all(virtualChannels.map(async channel => {
+    const request = { TCServiceId: channel.id };
+    const present = await member("GetPresentProgram", request).catch(() => ({}));
+    const slot = await member("GetOnDemandIdentifier", request).catch(() => ({}));
+    return [channel.major, channel.name, channel.id, present.title || "", slot.program_id ? slot.program_id.event_id : ""];
   }));
   document.getElementById("virtual").replaceChildren(rows.length
-    ? table(["service id", "channel", "on now", "on demand"], rows) : el("p", {}, "(none)"));
+    ? table(["major", "name", "service id", "on now", "on demand"], rows) : el("p", {}, "(none)"));
 }
 
 let pending = null;
