@@ -93,8 +93,16 @@ def screenshot(path):
     with Service(BUILD, SOURCE) as service:
         browser = open_browser()
         try:
+            browser.set_window_size(1400, 1150)
             browser.get(service.url)
             guide_rows(browser, 5)
+            # One event sent from the page's own form, so that the list shows one.
+            for field, value in [("emit-event", "12"), ("emit-p1", "0"), ("emit-p2", "60")]:
+                browser.find_element(By.ID, field).clear()
+                browser.find_element(By.ID, field).send_keys(value)
+            browser.find_element(By.CSS_SELECTOR, "#emit button").click()
+            WebDriverWait(browser, 5).until(lambda b: b.find_elements(By.CSS_SELECTOR, "#events .event"))
+            time.sleep(2.5)  # until the new line's highlight fades
             browser.save_screenshot(path)
         finally:
             browser.quit()
