@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -223,6 +224,21 @@ long PeakBytesDuring(const std::function<void()>& warmUp, const std::function<vo
   close(fds[0]);
   waitpid(child, nullptr, 0);
   return peak;
+}
+
+void InTurns(benchmark::State& state, const std::vector<Step>& steps) {
+  using Clock = std::chrono::steady_clock;
+  std::vector<Clock::duration> spent(steps.size());
+  for (auto _ : state) {
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+      const auto start = Clock::now();
+      steps[i].second();
+      spent[i] += Clock::now() - start;
+    }
+  }
+  for (std::size_t i = 0; i < steps.size(); ++i) {
+    state.counters[steps[i].first] = std::chrono::duration<double>(spent[i]).count() / state.iterations();
+  }
 }
 
 }  // namespace zunde::bench

@@ -4,12 +4,15 @@
 #ifndef ZUNDE_BENCH_SUPPORT_H
 #define ZUNDE_BENCH_SUPPORT_H
 
+#include <benchmark/benchmark.h>
 #include <dbus/dbus.h>
 #include <sys/types.h>
 
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace zunde::bench {
 
@@ -42,6 +45,12 @@ std::string PaddedText(std::size_t size);
 std::string ChannelListText(int count);
 // A week of hourly programmes on `channels` channels, as the service sends it.
 std::string WeekProgramMapText(int channels);
+
+// Steps timed in turns, each on a counter of its own (seconds per
+// iteration): whatever else the machine does falls on all of them alike,
+// which separate runs cannot promise.
+using Step = std::pair<std::string, std::function<void()> >;
+void InTurns(benchmark::State& state, const std::vector<Step>& steps);
 
 // Peak resident memory above the idle process while `receive` runs once, in
 // a child forked for it after `warmUp` ran; -1 when it cannot be measured.

@@ -86,26 +86,6 @@ void TypedSmall(benchmark::State& state) {
   Payload(state, kSmallRequest.size());
 }
 
-// Steps timed in turns, each on a counter of its own (seconds per
-// iteration): whatever else the machine does falls on all of them alike,
-// which separate runs cannot promise.
-using Step = std::pair<std::string, std::function<void()> >;
-
-void InTurns(benchmark::State& state, const std::vector<Step>& steps) {
-  using Clock = std::chrono::steady_clock;
-  std::vector<Clock::duration> spent(steps.size());
-  for (auto _ : state) {
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-      const auto start = Clock::now();
-      steps[i].second();
-      spent[i] += Clock::now() - start;
-    }
-  }
-  for (std::size_t i = 0; i < steps.size(); ++i) {
-    state.counters[steps[i].first] = std::chrono::duration<double>(spent[i]).count() / state.iterations();
-  }
-}
-
 // Request and reply of the same size; big requests are dropped from the service's record as they come.
 void BareSized(benchmark::State& state, const Size& size) {
   const std::string text = PaddedText(size.bytes);

@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "direct_commands.h"
+#include "guide_window.h"
 #include "output.h"
 #include "session.h"
 
@@ -27,28 +28,6 @@ struct GuideOptions {
   double hours = 3;
 };
 
-struct Row {
-  FCRemoteChannel channel;
-  std::vector<FCRemoteProgram> programs;
-};
-
-// The time `text` names; -1 when it names none.
-long long ParseFrom(const std::string& text) {
-  const time_t now = std::time(nullptr);
-  if (text == "now") return now;
-  if (!text.empty() && text.find_first_not_of("0123456789") == std::string::npos) return std::stoll(text);
-  int hour = 0, minute = 0;
-  char rest = 0;
-  if (std::sscanf(text.c_str(), "%d:%d%c", &hour, &minute, &rest) != 2 || hour > 23 || minute > 59 || hour < 0 ||
-      minute < 0)
-    return -1;
-  std::tm local = *std::localtime(&now);
-  local.tm_hour = hour;
-  local.tm_min = minute;
-  local.tm_sec = 0;
-  return std::mktime(&local);
-}
-
 std::string Clock(long long when) {
   const time_t t = static_cast<time_t>(when);
   char text[8];
@@ -61,7 +40,7 @@ std::string Fit(std::string text, size_t width) {
   return text + std::string(width - text.size(), ' ');
 }
 
-void PrintGrid(const std::vector<Row>& rows, long long start, int slots, bool colour) {
+void PrintGrid(const std::vector<GuideRow>& rows, long long start, int slots, bool colour) {
   const long long now = std::time(nullptr), end = start + static_cast<long long>(slots) * kSlotSeconds;
   const auto column = [&](long long when) {
     return static_cast<size_t>(std::clamp(when - start, 0LL, end - start) * static_cast<long long>(kSlotWidth) / kSlotSeconds);
@@ -74,7 +53,7 @@ void PrintGrid(const std::vector<Row>& rows, long long start, int slots, bool co
     std::string marker(kNameWidth + column(now), ' ');
     std::printf("%s%s\n", marker.c_str(), colour ? "\033[1;31mv now\033[0m" : "v now");
   }
-  for (const Row& row : rows) {
+  for (const GuideRow& row : rows) {
     std::string line = Fit(row.channel.str_channel_number + " " + row.channel.str_channel_name, kNameWidth - 1) + " ";
     size_t at = 0;
     for (const FCRemoteProgram& program : row.programs) {
@@ -91,12 +70,12 @@ void PrintGrid(const std::vector<Row>& rows, long long start, int slots, bool co
   }
 }
 
-Json::Value GuideJson(std::vector<Row>& rows, long long start, double hours) {
+Json::Value GuideJson(std::vector<GuideRow>& rows, long long start, double hours) {
   Json::Value out(Json::objectValue);
   out["start"] = Json::Int64(start);
   out["hours"] = hours;
   out["channels"] = Json::Value(Json::arrayValue);
-  for (Row& row : rows) {
+  for (GuideRow& row : rows) {
     Json::Value channel = J(row.channel);
     channel["programs"] = Json::Value(Json::arrayValue);
     for (FCRemoteProgram& program : row.programs) channel["programs"].append(J(program));
@@ -108,22 +87,8 @@ Json::Value GuideJson(std::vector<Row>& rows, long long start, double hours) {
 int Guide(const GuideOptions& options) {
   const long long start = ParseFrom(options.from) / kSlotSeconds * kSlotSeconds;
   const int slots = std::max(1, static_cast<int>(std::ceil(options.hours * 2)));
-  const auto activity = static_cast<eRemoteContentActivity>(options.activity);
-  FCRemoteContent_MSOAPI* catalogue = FCAPI::GetRemoteContentMSOAPI();
-  std::vector<FCRemoteChannel> channels;
-  if (!catalogue->GetFullChannelList(activity, channels)) return ReportFailure("guide: GetFullChannelList");
-  std::vector<std::string> ids;
-  for (const FCRemoteChannel& channel : channels) ids.push_back(channel.str_program_source_id);
-  FCFilterCriteria filter;
-  std::map<std::string, std::vector<FCRemoteProgram> > programs;
-  if (!catalogue->GetProgramMap(activity, ids, static_cast<int>(start), slots * kSlotSeconds, filter, programs))
-    return ReportFailure("guide: GetProgramMap");
-  std::vector<Row> rows;
-  for (const FCRemoteChannel& channel : channels) {
-    rows.push_back({channel, programs[channel.str_program_source_id]});
-    std::sort(rows.back().programs.begin(), rows.back().programs.end(),
-              [](const FCRemoteProgram& a, const FCRemoteProgram& b) { return a.utc_starttime < b.utc_starttime; });
-  }
+  std::vector<GuideRow> rows;
+  if (const int failed = FetchGuide(options.activity, start, slots * kSlotSeconds, rows, "guide")) return failed;
   if (GlobalOptions().json)
     std::printf("%s\n", CompactJson(GuideJson(rows, start, options.hours)).c_str());
   else
@@ -138,10 +103,7 @@ void AddGuide(CLI::App& app, Action& action) {
   CLI::App* guide = app.add_subcommand("guide", "The operator's programme guide: channels down, half-hours across");
   guide->footer("Example: zunde-cli guide --activity 0 --from 18:00 --hours 2");
   guide->add_option("--activity", options->activity, "remote content activity (default 0)");
-  guide->add_option("--from", options->from, "start: now (default), HH:MM today, or seconds since the epoch")
-      ->check(CLI::Validator(
-          [](std::string& text) { return ParseFrom(text) < 0 ? "'" + text + "' is not now, HH:MM or a time" : ""; },
-          "TIME"));
+  guide->add_option("--from", options->from, kFromHelp)->check(CLI::Validator(CheckFrom, "TIME"));
   guide->add_option("--hours", options->hours, "how many hours across (default 3)")->check(CLI::Range(0.5, 24.0));
   guide->callback([options, &action] { action = [options] { return Guide(*options); }; });
 }

@@ -40,6 +40,7 @@ int main(int argc, char** argv) {
   zcli::AddReset(app, action);
   zcli::AddMonitor(app, action);
   zcli::AddGuide(app, action);
+  zcli::AddExportXmltv(app, action);
 
   try {
     app.parse(argc, argv);

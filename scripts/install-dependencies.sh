@@ -11,6 +11,7 @@ packages=(
   build-essential cmake pkg-config
   libjsoncpp-dev libdbus-1-dev libdbus-glib-1-dev libglib2.0-dev libsqlite3-dev
   libcli11-dev libsoup-3.0-dev
+  libxml2-dev zlib1g-dev
   dbus-daemon
   googletest libgtest-dev libgmock-dev
 )
@@ -19,7 +20,7 @@ browser_packages=()
 case "${1:---all}" in
   --build) ;;
   --all)
-    packages+=(libbenchmark-dev abigail-tools clang libclang-rt-dev)
+    packages+=(libbenchmark-dev abigail-tools clang libclang-rt-dev libxmltv-perl libxml2-utils)
     browser_packages=(chromium chromium-driver python3-selenium)
     ;;
   *) echo "usage: $0 [--build|--all]" >&2; exit 2 ;;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "guide_files/listed_guide.h"
+
 namespace zunde::service {
 namespace {
 
@@ -26,13 +28,25 @@ std::vector<Slot> DaySlots(const Schedule& schedule, size_t seed, long day) {
     const time_t length = std::min<time_t>(schedule.minutes[turn % schedule.minutes.size()] * 60, end - start);
     const size_t n = slots.size();
     slots.push_back({static_cast<unsigned int>(start), static_cast<unsigned int>(length),
-                     schedule.titles[(seed + n) % schedule.titles.size()], schedule.genre, day * 1000 + static_cast<long>(n)});
+                     schedule.titles[(seed + n) % schedule.titles.size()], schedule.genre, day * 1000 + static_cast<long>(n), {}});
     start += length;
   }
   return slots;
 }
 
 time_t DayStart(time_t time) { return time / kDay * kDay; }
+
+// A guide file's programmes are shown as listed, whatever the window.
+std::vector<Slot> ListedSlots(const guide::ListedGuide& listed, const std::string& key, time_t from, time_t to) {
+  std::vector<Slot> slots;
+  for (FCRemoteProgram& program : listed.Between(key, from, to)) {
+    Slot slot{program.utc_starttime, static_cast<unsigned int>(program.duration), program.strTitle,
+              program.genre_array.empty() ? "" : program.genre_array.front(), static_cast<long>(program.utc_starttime / 60), {}};
+    slot.listed = std::move(program);
+    slots.push_back(std::move(slot));
+  }
+  return slots;
+}
 
 }  // namespace
 
@@ -71,8 +85,11 @@ const Schedule& Catalogue::ScheduleOf(const std::string& genre) const {
   return schedules.front();
 }
 
+bool Catalogue::Lists(const std::string& key) const { return listed && listed->Has(key); }
+
 std::vector<Slot> Catalogue::SlotsBetween(const std::string& key, const std::string& genre, time_t from, time_t to,
                                           time_t end) const {
+  if (Lists(key)) return ListedSlots(*listed, key, from, to);
   from = std::max(from, DayStart(WindowStart()));
   to = std::min(to, end);
   std::vector<Slot> slots;

@@ -6,7 +6,9 @@
 // genre sets, so a programme is computed from the channel and the time, and
 // a 5,000-channel line-up costs no start-up time. The guide reaches from a
 // day before the service started to a week after it (further for what an
-// activity loaded more of).
+// activity loaded more of). Only a guide file's programmes are stored, in
+// an SQLite file of their own (guide_files/listed_guide.h), and shown as
+// listed in place of the computed ones.
 #ifndef ZUNDE_SERVICE_CATALOGUE_H
 #define ZUNDE_SERVICE_CATALOGUE_H
 
@@ -14,6 +16,8 @@
 
 #include <ctime>
 #include <map>
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -23,6 +27,10 @@
 #include "FCVirtualProgramData.h"
 
 namespace zunde::service {
+
+namespace guide {
+class ListedGuide;
+}
 
 // One of the set's own tuned services.
 struct BroadcastChannel {
@@ -59,6 +67,11 @@ struct VirtualChannel {
   std::string service;
   std::string genre;
   std::string imageBase;  // logos, thumbnails and backgrounds live under it
+  // A playlist's channel: its own logo and stream, and the guide channel
+  // its programmes come from; "" for none.
+  std::string logo;
+  std::string streamUrl;
+  std::string guideKey;
 };
 
 // A programme slot of a broadcast or virtual channel.
@@ -68,6 +81,7 @@ struct Slot {
   std::string title;
   std::string genre;
   long index = 0;  // the slot's place in the channel's endless sequence
+  std::optional<FCRemoteProgram> listed;  // the programme as a guide file lists it
 };
 
 struct Catalogue {
@@ -83,6 +97,10 @@ struct Catalogue {
   FCVirtualConfig virtualConfig;
   bool viewingAgreement = true;
 
+  // Programmes a guide file lists; a channel key found there takes its
+  // programmes from it instead of its genre's schedule.
+  std::shared_ptr<const guide::ListedGuide> listed;
+
   // When the guide window was fixed: the service's start.
   time_t now = 0;
 
@@ -91,6 +109,8 @@ struct Catalogue {
   const BroadcastChannel* BroadcastBySource(const std::string& sourceId) const;
   const VirtualChannel* VirtualById(unsigned long long serviceId) const;
   const Schedule& ScheduleOf(const std::string& genre) const;
+  // Whether a guide file has the channel `key`.
+  bool Lists(const std::string& key) const;
 
   // The guide window in whole UTC days: from the day before `now` to the
   // end of the seventh day after it.

@@ -205,7 +205,7 @@ Catalogue FromDocument(Json::Value& doc) {
     c.virtualChannels.push_back(
         {ServiceId(e["TCServiceId"], "virtual channels[" + std::to_string(i) + "].TCServiceId"), e["major"].asString(),
          e["name"].asString(), e["provider"].asString(), e["service"].asString(), e["genre"].asString(),
-         e["images"].asString()});
+         e["images"].asString(), "", "", ""});
   }
   FCVirtualConfig::FromJson(doc["virtual config"], c.virtualConfig);
   c.viewingAgreement = doc["viewing agreement"].asBool();

@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+#include "guide_files/guide_loader.h"
+
 namespace zunde::service {
 namespace {
 
@@ -18,9 +20,23 @@ std::string CataloguePath(const Options& options) {
   return Exists(own) ? own : "";
 }
 
+bool AddGuideFiles(const Options& options, const std::string& language, Catalogue& catalogue) {
+  if (options.xmltv.empty() && options.m3u.empty()) return true;
+  const guide::GuideFiles files{options.xmltv, options.m3u, options.dataDir + "/guide.db", language};
+  std::string warning;
+  try {
+    guide::LoadGuideFiles(files, catalogue, warning);
+  } catch (const std::exception& refused) {
+    std::fprintf(stderr, "zunde-service: %s\n", refused.what());
+    return false;
+  }
+  if (!warning.empty()) std::fprintf(stderr, "zunde-service: warning: %s\n", warning.c_str());
+  return true;
+}
+
 }  // namespace
 
-std::unique_ptr<Catalogue> LoadCatalogueSources(const Options& options) {
+std::unique_ptr<Catalogue> LoadCatalogueSources(const Options& options, const std::string& language) {
   const std::string path = CataloguePath(options);
   std::unique_ptr<Catalogue> catalogue;
   try {
@@ -30,12 +46,13 @@ std::unique_ptr<Catalogue> LoadCatalogueSources(const Options& options) {
     std::fprintf(stderr, "zunde-service: catalogue %s: %s\n", path.c_str(), refused.what());
     return nullptr;
   }
+  if (!AddGuideFiles(options, language, *catalogue)) return nullptr;
   catalogue->now = std::time(nullptr);
   return catalogue;
 }
 
-bool ReloadCatalogue(const Options& options, Catalogue& running) {
-  std::unique_ptr<Catalogue> loaded = LoadCatalogueSources(options);
+bool ReloadCatalogue(const Options& options, const std::string& language, Catalogue& running) {
+  std::unique_ptr<Catalogue> loaded = LoadCatalogueSources(options, language);
   if (!loaded) {
     std::fprintf(stderr, "zunde-service: the catalogue was not reloaded; the running one stays\n");
     return false;

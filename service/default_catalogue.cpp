@@ -183,7 +183,7 @@ void AddServices(Catalogue& c) {
     const std::string n = std::to_string(k + 1);
     c.virtualChannels.push_back({(0xFFFEULL << 32) | (1ULL << 16) | static_cast<unsigned>(k + 1), std::to_string(4001 + k),
                                  virtuals[k][0], "ontv-provider-1", std::string("ontv-") + virtuals[k][2], virtuals[k][1],
-                                 "https://images.zunde.invalid/vc/" + n});
+                                 "https://images.zunde.invalid/vc/" + n, "", "", ""});
   }
   Json::Value config;
   config["ch_position"]["position"] = "after_last";

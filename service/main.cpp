@@ -17,6 +17,7 @@
 #include "bus_service.h"
 #include "catalogue.h"
 #include "catalogue_sources.h"
+#include "environment_state.h"
 #include "options.h"
 #include "page_server.h"
 
@@ -44,13 +45,16 @@ int WriteDefaultCatalogue(const Options& options) {
 // the dispatcher is told so that it forgets the answers it kept.
 struct Reload {
   const Options& options;
+  const Store& store;  // whose language picks a guide file's texts
   Catalogue& catalogue;
   Dispatcher& dispatcher;
 };
 
 gboolean OnHangup(gpointer reload) {
   auto* r = static_cast<Reload*>(reload);
-  if (ReloadCatalogue(r->options, r->catalogue)) r->dispatcher.ReplaceCatalogue(r->catalogue);
+  if (ReloadCatalogue(r->options, LoadEnvironment(r->store).language, r->catalogue)) {
+    r->dispatcher.ReplaceCatalogue(r->catalogue);
+  }
   return G_SOURCE_CONTINUE;
 }
 
@@ -73,8 +77,6 @@ bool StartPage(const Options& options, BusService& service, std::unique_ptr<http
 
 int Serve(const Options& options) {
   if (!MakeFolder(options.dataDir)) return 1;
-  const std::unique_ptr<Catalogue> catalogue = LoadCatalogueSources(options);
-  if (!catalogue) return 1;
   std::unique_ptr<Store> store;
   try {
     store = std::make_unique<Store>(options.dataDir + "/zunde-service.db",
@@ -87,6 +89,8 @@ int Serve(const Options& options) {
     std::fprintf(stderr, "zunde-service: the store is read-only (%s): changes will be refused\n",
                  store->ReadOnlyReason().c_str());
   }
+  const std::unique_ptr<Catalogue> catalogue = LoadCatalogueSources(options, LoadEnvironment(*store).language);
+  if (!catalogue) return 1;
   Dispatcher dispatcher(*store, *catalogue, options.limits);
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   int status = 0;
@@ -107,7 +111,7 @@ int Serve(const Options& options) {
         });
     g_unix_signal_add(SIGTERM, Quit, loop);
     g_unix_signal_add(SIGINT, Quit, loop);
-    Reload reload{options, *catalogue, dispatcher};
+    Reload reload{options, *store, *catalogue, dispatcher};
     g_unix_signal_add(SIGHUP, OnHangup, &reload);
     if (service.Start() && StartPage(options, service, page)) {
       g_main_loop_run(loop);

@@ -114,7 +114,10 @@ void ProgramMap(Request& request, Json::Value& reply) {
     std::vector<FCRemoteProgram>& list = programs[sourceId];
     for (const Slot& slot : request.catalogue.SlotsBetween(sourceId, channel.genre_id, start,
                                                            static_cast<time_t>(start) + duration, end)) {
-      if (PassesFilter({slot.genre}, filter, request.catalogue)) list.push_back(OperatorProgram(channel, slot));
+      if (PassesFilter(slot.listed ? slot.listed->genre_array : std::vector<std::string>{slot.genre}, filter,
+                       request.catalogue)) {
+        list.push_back(OperatorProgram(channel, slot));
+      }
     }
   }
   FCMarshal::ProgramMapToJson(programs, reply);

@@ -10,7 +10,8 @@ namespace {
 const char* const kUsage =
     "Usage: zunde-service [--data-dir DIR] [--slow-reply-ms N] [--catalogue FILE] [--lineup-size N]\n"
     "                     [--kpi-log-limit N] [--program-map-limit N] [--channel-map-limit N]\n"
-    "                     [--read-only] [--max-store-pages N] [--http [ADDRESS:]PORT]\n"
+    "                     [--read-only] [--max-store-pages N] [--xmltv FILE] [--m3u FILE]\n"
+    "                     [--http [ADDRESS:]PORT]\n"
     "       zunde-service [--lineup-size N] --write-default-catalogue FILE\n"
     "Answers the zunde-provider library on the bus that DBUS_SYSTEM_BUS_ADDRESS names\n"
     "(else the system bus), keeping its state in DIR/zunde-service.db.\n"
@@ -19,6 +20,9 @@ const char* const kUsage =
     "  --slow-reply-ms N   how late answers are sent while the slow switch is on (default 3000)\n"
     "  --catalogue FILE    the channels and guide to offer (default: DIR/catalogue.json when\n"
     "                      there, else the built-in set)\n"
+    "  --xmltv FILE        an XMLTV guide (.gz too): activity 0's line-up and its programmes\n"
+    "  --m3u FILE          an extended M3U playlist (.gz too): the virtual channels\n"
+    "                      (SIGHUP reads the catalogue and both files again)\n"
     "  --lineup-size N     channels in the built-in set (default 60, at most 100000)\n"
     "  --kpi-log-limit N   usage events kept, the oldest going first (default 1000)\n"
     "  --program-map-limit N  channel ids whose programme map is kept, the least\n"
@@ -121,6 +125,10 @@ Options ParseOptions(int argc, char** argv) {
       ++i;
     } else if (std::strcmp(arg, "--catalogue") == 0 && hasValue) {
       options.catalogue = argv[++i];
+    } else if (std::strcmp(arg, "--xmltv") == 0 && hasValue) {
+      options.xmltv = argv[++i];
+    } else if (std::strcmp(arg, "--m3u") == 0 && hasValue) {
+      options.m3u = argv[++i];
     } else if (std::strcmp(arg, "--write-default-catalogue") == 0 && hasValue) {
       options.writeDefaultCatalogue = argv[++i];
     } else {

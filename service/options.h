@@ -12,6 +12,8 @@ struct Options {
   std::string dataDir;      // where the store lives; made when missing
   int slowReplyMs = 3000;   // the delay of every answer while the slow switch is on
   std::string catalogue;    // the catalogue file; "" = DIR/catalogue.json if there, else the default set
+  std::string xmltv;        // an XMLTV guide: activity 0's line-up and its programmes
+  std::string m3u;          // an M3U playlist: the virtual channels
   std::string writeDefaultCatalogue;  // write the default set here and stop
   int lineupSize = 60;      // channels in the default set
   StorageLimits limits;     // how much of each growing table is kept

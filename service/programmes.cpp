@@ -42,6 +42,7 @@ FCRemoteProgram Program(const Slot& slot, const std::string& key, const std::str
 }  // namespace
 
 FCRemoteProgram OperatorProgram(const FCRemoteChannel& channel, const Slot& slot) {
+  if (slot.listed) return *slot.listed;
   FCRemoteProgram p = Program(slot, channel.str_program_source_id, channel.str_channel_name);
   p.activityID = channel.activityID;
   p.str_program_source_id = channel.str_program_source_id;
@@ -51,7 +52,9 @@ FCRemoteProgram OperatorProgram(const FCRemoteChannel& channel, const Slot& slot
 }
 
 FCRemoteProgram BroadcastProgram(const BroadcastChannel& channel, const Slot& slot) {
-  FCRemoteProgram p = Program(slot, std::to_string(channel.serviceId), channel.name);
+  FCRemoteProgram p = slot.listed ? *slot.listed : Program(slot, std::to_string(channel.serviceId), channel.name);
+  p.str_program_id = std::to_string(channel.serviceId) + ":" + std::to_string(slot.start);
+  p.str_channel_name = channel.name;
   p.str_program_source_id = channel.sourceId;
   p.IsRF = true;
   return p;

@@ -29,38 +29,61 @@ FCVirtualProgramId IdOf(Request& request) {
   return id;
 }
 
+// A playlist's channel plays its own stream and shows its guide channel's
+// programmes; the others have everything under their image base.
+std::string ScheduleKeyOf(const VirtualChannel& channel) {
+  return channel.guideKey.empty() ? std::to_string(channel.serviceId) : channel.guideKey;
+}
+
+std::string StreamOf(const VirtualChannel& channel, const std::string& start) {
+  return channel.streamUrl.empty() ? channel.imageBase + "/stream/" + start + ".m3u8" : channel.streamUrl;
+}
+
 FCVirtualProgramData ProgramOf(const VirtualChannel& channel, const Slot& slot) {
   const std::string start = std::to_string(slot.start);
   FCVirtualProgramData program;
   program.SetServiceId(channel.serviceId);
   program.SetEventId(std::to_string(channel.serviceId) + ":" + start);
   program.SetContentType("playlist");
-  program.SetContentUri(channel.imageBase + "/stream/" + start + ".m3u8");
+  program.SetContentUri(StreamOf(channel, start));
   program.SetStartTime(slot.start);
   program.SetDuration(slot.duration);
   program.SetTitle(slot.title);
-  std::vector<FCVirtualPlaylistItem> playlist(kPlaylistItems);
-  for (int i = 0; i < kPlaylistItems; ++i) {
+  // A playlist's channel plays its one stream; the others a few clips.
+  const int items = channel.streamUrl.empty() ? kPlaylistItems : 1;
+  std::vector<FCVirtualPlaylistItem> playlist(items);
+  for (int i = 0; i < items; ++i) {
     playlist[i].SetOrder(i + 1);
     playlist[i].SetItemId(start + "-" + std::to_string(i + 1));
-    playlist[i].SetTitle(slot.title + " (part " + std::to_string(i + 1) + ")");
-    playlist[i].SetContentUri(channel.imageBase + "/clips/" + start + "-" + std::to_string(i + 1) + ".mp4");
-    playlist[i].SetDuration(slot.duration / kPlaylistItems);
+    playlist[i].SetTitle(items == 1 ? slot.title : slot.title + " (part " + std::to_string(i + 1) + ")");
+    playlist[i].SetContentUri(items == 1 ? channel.streamUrl
+                                         : channel.imageBase + "/clips/" + start + "-" + std::to_string(i + 1) + ".mp4");
+    playlist[i].SetDuration(slot.duration / items);
   }
   program.SetPlaylist(playlist);
   program.SetPosterUrl(channel.imageBase + "/poster/" + start + ".jpg");
   program.SetPosterIndex(std::to_string(slot.index % 1000));
   program.SetShortDescription(slot.title + " on " + channel.name);
+  if (slot.listed) {
+    program.SetPosterUrl(slot.listed->str_poster_url);
+    program.SetShortDescription(slot.listed->str_short_desc);
+  }
   return program;
 }
 
+// A playlist's channel shows only what a guide file lists for it: made-up
+// programmes on a real stream would mislead.
+std::vector<Slot> SlotsOf(Request& request, const VirtualChannel& channel, time_t from, time_t to) {
+  if (!channel.streamUrl.empty() && !request.catalogue.Lists(channel.guideKey)) return {};
+  return request.catalogue.SlotsBetween(ScheduleKeyOf(channel), channel.genre, from, to, request.catalogue.WindowEnd());
+}
+
 Slot SlotAt(Request& request, const VirtualChannel& channel, time_t time) {
-  Slot slot;
-  if (!request.catalogue.SlotAt(std::to_string(channel.serviceId), channel.genre, time, request.catalogue.WindowEnd(),
-                                slot)) {
+  std::vector<Slot> slots = SlotsOf(request, channel, time, time + 1);
+  if (slots.empty()) {
     throw BadRequest("no programme on virtual channel " + std::to_string(channel.serviceId) + " at " + std::to_string(time));
   }
-  return slot;
+  return slots.front();
 }
 
 void ReplyProgram(const FCVirtualProgramData& program, Json::Value& reply) {
@@ -84,9 +107,7 @@ void ProgramList(Request& request, Json::Value& reply) {
   FCMarshal::JsonToStartTime(request.body, start);
   FCMarshal::JsonToDuration(request.body, duration);
   std::map<unsigned int, FCVirtualProgramData> programs;
-  for (const Slot& slot : request.catalogue.SlotsBetween(std::to_string(channel.serviceId), channel.genre, start,
-                                                         static_cast<time_t>(start) + duration,
-                                                         request.catalogue.WindowEnd())) {
+  for (const Slot& slot : SlotsOf(request, channel, start, static_cast<time_t>(start) + duration)) {
     programs[slot.start] = ProgramOf(channel, slot);
   }
   FCMarshal::VirtualProgramMapToJson(programs, reply);
@@ -125,8 +146,9 @@ void Present(Request& request, Json::Value& reply) {
 void ChannelLogo(Request& request, Json::Value& reply) {
   FCVirtualChannelsAPI::EChannelLogoSize size;
   FCMarshal::JsonToLogoSize(request.body, size);
-  FCMarshal::ChannelLogoToJson(ChannelOf(request, ServiceIdOf(request)).imageBase + "/logo_" + std::to_string(size) + ".png",
-                               reply);
+  const VirtualChannel& channel = ChannelOf(request, ServiceIdOf(request));
+  FCMarshal::ChannelLogoToJson(
+      channel.streamUrl.empty() ? channel.imageBase + "/logo_" + std::to_string(size) + ".png" : channel.logo, reply);
   Succeed(reply);
 }
 

@@ -37,16 +37,7 @@ const unsigned long long kVirtual = (0xFFFEULL << 32) | (1ULL << 16) | 1;
 const time_t kNow = std::time(nullptr);
 const unsigned long kEvening = kNow / 86400 * 86400 + 20 * 3600;  // today, 20:00 UTC
 
-std::string ServiceBinary() { return ZUNDE_SERVICE_PATH; }
-
-// The exit status and the error output of the service run with `args`.
-std::pair<int, std::string> RunService(const std::string& args) {
-  FILE* pipe = popen((ServiceBinary() + " " + args + " 2>&1 >/dev/null").c_str(), "r");
-  std::string text;
-  char buffer[512];
-  while (fgets(buffer, sizeof buffer, pipe)) text += buffer;
-  return {WEXITSTATUS(pclose(pipe)), text};
-}
+std::pair<int, std::string> RunService(const std::string& args) { return RunningService::Run(args); }
 
 class CatalogueService : public ::testing::Test {
  protected:

@@ -5,6 +5,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
+
 #include "child_process.h"
 
 namespace zunde::testing {
@@ -45,6 +47,14 @@ void RunningService::Kill() {
   kill(servicePid, SIGKILL);
   waitpid(servicePid, nullptr, 0);
   servicePid = -1;
+}
+
+std::pair<int, std::string> RunningService::Run(const std::string& args, const std::string& env) {
+  FILE* pipe = popen((env + " " + ZUNDE_SERVICE_PATH + " " + args + " 2>&1 >/dev/null").c_str(), "r");
+  std::string text;
+  char buffer[512];
+  while (fgets(buffer, sizeof buffer, pipe)) text += buffer;
+  return {WEXITSTATUS(pclose(pipe)), text};
 }
 
 }  // namespace zunde::testing

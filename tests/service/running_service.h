@@ -3,6 +3,7 @@
 #define ZUNDE_TESTS_RUNNING_SERVICE_H
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zunde::testing {
@@ -17,6 +18,9 @@ class RunningService {
   static void Kill();
   // Sends `signal` and leaves it running.
   static void Signal(int signal);
+  // Runs the service with `args` (and the shell's `env` assignments) to its
+  // end: the exit status and what it wrote to standard error.
+  static std::pair<int, std::string> Run(const std::string& args, const std::string& env = "");
 };
 
 }  // namespace zunde::testing
