@@ -29,4 +29,23 @@ Json::Value Args::json(size_t n) const {
   return value;
 }
 
+namespace {
+
+void Overlay(Json::Value& base, const Json::Value& given) {
+  for (const std::string& key : given.getMemberNames()) {
+    if (base[key].isObject() && given[key].isObject())
+      Overlay(base[key], given[key]);
+    else
+      base[key] = given[key];
+  }
+}
+
+}  // namespace
+
+Json::Value Args::over(size_t n, Json::Value base) const {
+  if (!base.isObject()) base = Json::Value(Json::objectValue);
+  Overlay(base, json(n));
+  return base;
+}
+
 }  // namespace zcli

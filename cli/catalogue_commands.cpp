@@ -11,7 +11,7 @@ Api* Mso() { return FCAPI::GetRemoteContentMSOAPI(); }
 eRemoteContentActivity Act(const Args& a) { return static_cast<eRemoteContentActivity>(a.i(0)); }
 
 const Arg kAct{"ACTIVITY", Kind::Int, "remote content activity"};
-const Arg kTime{"TIME", Kind::Unsigned, "seconds since the epoch"};
+const Arg kTime{"TIME", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"};
 const Arg kIds{"SOURCE_IDS", Kind::Text, "programme source ids, comma-separated (\"\" for every channel)"};
 const Arg kSource{"SOURCE_ID", Kind::Text, "programme source id"};
 const std::vector<std::string> kChannelColumns = {"str_channel_number", "str_channel_name", "str_program_source_id",
@@ -37,7 +37,7 @@ Command Channels(const char* name, const char* help, bool (Api::*method)(Api::Ac
 
 // A call at a time.
 Command AtTime(const char* name, const char* help, bool (Api::*method)(Api::Act, unsigned long)) {
-  return {name, help, std::string("zunde-cli catalogue ") + name + " 0 1767225600", {kAct, kTime},
+  return {name, help, std::string("zunde-cli catalogue ") + name + " 0 now", {kAct, kTime},
           [method](const Args& a, Json::Value&) { return (Mso()->*method)(Act(a), a.u(1)); }};
 }
 
@@ -53,8 +53,14 @@ Family CatalogueFamily() {
        return ok;
      }},
     {"set-config", "Set the operator configuration", "zunde-cli catalogue set-config 0 '{\"config\": {\"strZipCode\": \"10001\"}}'",
-     {kAct, {"CONFIG", Kind::Json, "{\"config\": {...}}"}},
-     [](const Args& a, Json::Value&) { return Mso()->SetRemoteContentConfig(Act(a), a.rec<FCRemoteMSOConfig>(1)); }},
+     {kAct, {"CONFIG", Kind::Json, "{\"config\": {...}}: only the fields given change", ShapeOf<FCRemoteMSOConfig>()}},
+     [](const Args& a, Json::Value&) {
+       FCRemoteMSOConfig config;
+       if (!Mso()->GetRemoteContentConfig(Act(a), config)) return false;
+       Json::Value merged = a.over(1, J(config));
+       FCRemoteMSOConfig::FromJson(merged, config);
+       return Mso()->SetRemoteContentConfig(Act(a), config);
+     }},
     {"cert-rule", "The certification rule", "zunde-cli catalogue cert-rule 0", {kAct},
      [](const Args& a, Json::Value& out) {
        CZundeResponse_CertRule rule;
@@ -72,8 +78,8 @@ Family CatalogueFamily() {
        FCMarshal::ProgramSourceMapToJson(keys, out);
        return ok;
      }},
-    {"programs", "The programmes of channels in a time window", "zunde-cli catalogue programs 0 '' 1767225600 7200",
-     {kAct, kIds, {"START", Kind::Unsigned, "seconds since the epoch"}, {"DURATION", Kind::Int, "seconds"}},
+    {"programs", "The programmes of channels in a time window", "zunde-cli catalogue programs 0 '' now 7200",
+     {kAct, kIds, {"START", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"}, {"DURATION", Kind::Int, "seconds"}},
      [](const Args& a, Json::Value& out) {
        std::vector<std::string> ids = a.list(1);
        FCFilterCriteria filter;
@@ -86,8 +92,8 @@ Family CatalogueFamily() {
      }, {"program source id", "start time", "utc start time", "duration", "title"}},
     OnActivity("activate-guide", "Activate the programme guide", &Api::ActivateProgramGuide),
     OnActivity("deactivate-guide", "Deactivate the programme guide", &Api::DeactivateProgramGuide),
-    {"load-more", "Load more programmes from the server", "zunde-cli catalogue load-more 0 '' 1767225600 7200",
-     {kAct, kIds, {"START", Kind::Unsigned, "seconds since the epoch"}, {"DURATION", Kind::Int, "seconds"}},
+    {"load-more", "Load more programmes from the server", "zunde-cli catalogue load-more 0 '' now 7200",
+     {kAct, kIds, {"START", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"}, {"DURATION", Kind::Int, "seconds"}},
      [](const Args& a, Json::Value&) {
        std::vector<std::string> ids = a.list(1);
        return Mso()->LoadAdditionalProgramMapFromServer(Act(a), ids, a.u(2), a.i(3));
@@ -122,7 +128,7 @@ Family CatalogueFamily() {
      }},
     AtTime("activate-timeline", "Activate the recommendation timeline", &Api::ActivateTimeline),
     AtTime("activate-personal", "Activate smart personal recommendations", &Api::ActivateSmartPersonal),
-    {"on-now", "Recommendations on now", "zunde-cli catalogue on-now 0 '' 1767225600 5",
+    {"on-now", "Recommendations on now", "zunde-cli catalogue on-now 0 '' now 5",
      {kAct, {"WATCHING", Kind::Text, "programme source id being watched"}, kTime, {"COUNT", Kind::Int, "how many"}},
      [](const Args& a, Json::Value& out) {
        FCFilterCriteria filter;
@@ -131,7 +137,7 @@ Family CatalogueFamily() {
        FCMarshal::FCSmartChannelGuideListToJson(guide, out);
        return ok;
      }},
-    {"upcoming", "Recommendations coming up", "zunde-cli catalogue upcoming 0 1767225600 5",
+    {"upcoming", "Recommendations coming up", "zunde-cli catalogue upcoming 0 now 5",
      {kAct, kTime, {"COUNT", Kind::Int, "how many"}},
      [](const Args& a, Json::Value& out) {
        FCFilterCriteria filter;
@@ -140,7 +146,7 @@ Family CatalogueFamily() {
        FCMarshal::FCSmartChannelGuideListToJson(guide, out);
        return ok;
      }},
-    {"timeline", "The recommendation timeline", "zunde-cli catalogue timeline 0 1767225600 0 3",
+    {"timeline", "The recommendation timeline", "zunde-cli catalogue timeline 0 now 0 3",
      {kAct, kTime, {"FROM_SLOT", Kind::Int, "first time slot"}, {"TO_SLOT", Kind::Int, "last time slot"}},
      [](const Args& a, Json::Value& out) {
        std::map<int, std::map<int, FCSmartChannelGuide> > timeline;
@@ -156,7 +162,7 @@ Family CatalogueFamily() {
        FCMarshal::FutureTimeLineToJson(timeline, out);
        return ok;
      }},
-    {"program", "The programme of a source id at a time", "zunde-cli catalogue program 0 src-1 1767225600",
+    {"program", "The programme of a source id at a time", "zunde-cli catalogue program 0 10001 now",
      {kAct, kSource, kTime},
      [](const Args& a, Json::Value& out) {
        FCRemoteProgram program;
@@ -164,15 +170,15 @@ Family CatalogueFamily() {
        out = J(program);
        return ok;
      }},
-    {"channel", "The channel of a source id", "zunde-cli catalogue channel 0 src-1", {kAct, kSource},
+    {"channel", "The channel of a source id", "zunde-cli catalogue channel 0 10001", {kAct, kSource},
      [](const Args& a, Json::Value& out) {
        FCRemoteChannel channel;
        const bool ok = Mso()->GetFCRemoteChannelByProgramSourceID(Act(a), a.s(1), channel);
        out = J(channel);
        return ok;
      }},
-    {"search-key-rf", "The search key of a broadcast service at a time", "zunde-cli catalogue search-key-rf 0 4097 1767225600",
-     {kAct, {"SERVICE_ID", Kind::Unsigned, "broadcast service id"}, kTime},
+    {"search-key-rf", "The search key of a broadcast service at a time", "zunde-cli catalogue search-key-rf 0 38293928476773 now",
+     {kAct, {"SERVICE_ID", Kind::Unsigned64, "broadcast service id"}, kTime},
      [](const Args& a, Json::Value& out) {
        unsigned long long service = a.u(1);
        std::string key;
@@ -181,7 +187,7 @@ Family CatalogueFamily() {
        return ok;
      }},
     {"search-key-mbr", "The search key of a set-top-box channel at a time",
-     "zunde-cli catalogue search-key-mbr 0 7 1767225600", {kAct, {"CHANNEL", Kind::Text, "channel number"}, kTime},
+     "zunde-cli catalogue search-key-mbr 0 7 now", {kAct, {"CHANNEL", Kind::Text, "channel number"}, kTime},
      [](const Args& a, Json::Value& out) {
        std::string key;
        const bool ok = Mso()->GetSearchKeyStringInMBRMode(Act(a), a.s(1), a.u(2), key);

@@ -3,47 +3,37 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdint>
 #include <memory>
+#include <set>
 
+#include "arg_checks.h"
 #include "output.h"
 #include "session.h"
 
 namespace zcli {
 namespace {
 
-CLI::Validator KindCheck(Kind kind) {
-  switch (kind) {
+// A check that may rewrite the text; CLI11 puts the argument's name before its message.
+CLI::Validator Check(std::function<std::string(std::string&)> check) { return CLI::Validator(check, ""); }
+
+CLI::Validator KindCheck(const Arg& arg) {
+  switch (arg.kind) {
     case Kind::Int:
-      return CLI::Validator(
-          [](std::string& text) -> std::string {
-            size_t end = 0;
-            try {
-              std::stoi(text, &end);
-            } catch (...) {
-            }
-            return end != 0 && end == text.size() ? "" : "'" + text + "' is not a whole number";
-          },
-          "INT");
+      return Check([](std::string& t) { return CheckWhole(t, INT32_MIN, INT32_MAX, "int"); });
     case Kind::Unsigned:
-      return CLI::Validator(
-          [](std::string& text) -> std::string {
-            const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-            return digits ? "" : "'" + text + "' is not an unsigned number";
-          },
-          "UINT");
+      return Check([](std::string& t) { return CheckWhole(t, 0, UINT32_MAX, "unsigned int"); });
+    case Kind::Unsigned64:
+      return Check([](std::string& t) { return CheckWhole(t, 0, UINT64_MAX, "unsigned 64-bit"); });
+    case Kind::Time:
+      return Check(CheckTime);
     case Kind::Bool:
-      return CLI::IsMember({"true", "false", "1", "0", "on", "off", "yes", "no"});
+      return Check([](std::string& t) {
+        static const std::set<std::string> words = {"true", "false", "1", "0", "on", "off", "yes", "no"};
+        return words.count(t) ? "" : "'" + t + "' is not one of true, false, 1, 0, on, off, yes, no";
+      });
     case Kind::Json:
-      return CLI::Validator(
-          [](std::string& text) -> std::string {
-            Json::Value value;
-            std::string errors;
-            std::istringstream in(text);
-            return Json::parseFromStream(Json::CharReaderBuilder(), in, &value, &errors) && value.isObject()
-                       ? ""
-                       : "'" + text + "' is not a JSON object";
-          },
-          "JSON");
+      return Check([shape = arg.shape](std::string& t) { return CheckJson(t, shape); });
     case Kind::Text:
       break;
   }
@@ -57,6 +47,11 @@ int Run(const Family& family, const Command& command, const std::vector<std::str
     out = Json::Value(Json::objectValue);
     return command.call(args, out);
   });
+  if (!ok && command.falseIsNo && AnswerWasNo()) {
+    if (GlobalOptions().json) PrintResult(out, command.columns);
+    else std::printf("no\n");
+    return kRefused;
+  }
   if (!ok) return ReportFailure(std::string(family.name) + " " + command.name);
   PrintResult(out, command.columns);
   return kOk;
@@ -69,16 +64,28 @@ void AddFamily(CLI::App& app, const Family& family, Action& action) {
   group->require_subcommand(1);
   for (const Command& command : family.commands) {
     CLI::App* sub = group->add_subcommand(command.name, command.help);
-    sub->footer("Example: " + command.example);
+    if (!command.example.empty()) sub->footer("Example: " + command.example);
     auto values = std::make_shared<std::vector<std::string>>(command.args.size());
     for (size_t n = 0; n < command.args.size(); ++n) {
       const Arg& arg = command.args[n];
-      sub->add_option(arg.name, (*values)[n], arg.help)->required()->check(KindCheck(arg.kind));
+      sub->add_option(arg.name, (*values)[n], arg.help)->required()->transform(KindCheck(arg));
     }
     sub->callback([&family, &command, values, &action] {
       action = [&family, &command, values] { return Run(family, command, *values); };
     });
   }
+}
+
+int PrintExamples(const CLI::App& app) {
+  std::istringstream footer(app.get_footer());
+  for (std::string line; std::getline(footer, line);) {
+    line.erase(0, line.find_first_not_of(' '));
+    const bool example = line.rfind("Example: ", 0) == 0;
+    if (example) line.erase(0, 9);
+    if (example || line.rfind("zunde-cli ", 0) == 0) std::printf("%s\n", line.c_str());
+  }
+  for (const CLI::App* sub : app.get_subcommands([](const CLI::App*) { return true; })) PrintExamples(*sub);
+  return kOk;
 }
 
 bool Timed(const std::function<bool()>& call) {

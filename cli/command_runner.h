@@ -21,6 +21,10 @@ void AddFamily(CLI::App& app, const Family& family, Action& action);
 // minimum, median and 99th percentile time on standard error.
 bool Timed(const std::function<bool()>& call);
 
+// Prints the command line of every "Example: " in the help texts of `app`
+// and its subcommands, one a line; kOk.
+int PrintExamples(const CLI::App& app);
+
 }  // namespace zcli
 
 #endif

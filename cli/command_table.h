@@ -15,12 +15,18 @@
 namespace zcli {
 
 // What an argument holds; decides how it is checked before any call is made.
-enum class Kind { Int, Unsigned, Text, Bool, Json };
+// Numbers are checked against the C++ type they become: Int a 32-bit int,
+// Unsigned a 32-bit unsigned, Unsigned64 a 64-bit unsigned (service ids),
+// Time 32-bit seconds since the epoch, also given as `now`, `now+90m`, `HH:MM`.
+enum class Kind { Int, Unsigned, Unsigned64, Time, Text, Bool, Json };
 
 struct Arg {
   std::string name;  // as shown in the usage line, e.g. "ACTIVITY"
   Kind kind;
   std::string help;
+  // For Json: the JSON form of the record it becomes; only its keys, with
+  // values of their JSON types, are accepted. Null: any object.
+  Json::Value shape = Json::Value();
 };
 
 // The command line's arguments, read by position; already checked against
@@ -36,6 +42,8 @@ class Args {
   // Comma-separated text as a list; "" is the empty list.
   std::vector<std::string> list(size_t n) const;
   Json::Value json(size_t n) const;
+  // `base` with the members of argument `n` laid over it: what is not given stays.
+  Json::Value over(size_t n, Json::Value base) const;
   // A record read from its JSON form.
   template <typename Record>
   Record rec(size_t n) const {
@@ -60,13 +68,36 @@ Json::Value J(Record& record) {
 struct Command {
   std::string name;
   std::string help;
-  std::string example;  // a full command line
+  std::string example;  // a full command line that succeeds on the default data; empty: none can
   std::vector<Arg> args;
   // Makes the call; fills `out` with the result's JSON form. The API's result.
   std::function<bool(const Args& args, Json::Value& out)> call;
   // The columns of a listed result, in order; empty: every key of its rows.
   std::vector<std::string> columns = {};
+  // False is an answer ("no", status 1), not a failure.
+  bool falseIsNo = false;
 };
+
+// The row with false as the answer "no".
+inline Command YesNo(Command command) {
+  command.falseIsNo = true;
+  return command;
+}
+
+// The row of a method the library answers without asking the service.
+inline Command Local(Command command) {
+  command.help += " (answered by the library itself; the service is not asked)";
+  return command;
+}
+
+// The JSON form of a default `Record`: the shape a JSON argument of it must keep to.
+template <typename Record>
+Json::Value ShapeOf() {
+  Record record;
+  Json::Value value(Json::objectValue);
+  Record::ToJson(record, value);
+  return value;
+}
 
 struct Family {
   const char* name;

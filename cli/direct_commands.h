@@ -1,5 +1,6 @@
 // The commands that are not rows of a family table: the pass-through call,
-// the whole reset, the event monitor, the programme guide and its XMLTV export.
+// the whole reset, the event monitor, the programme guide, its XMLTV export
+// and sending an event.
 #ifndef ZUNDE_CLI_DIRECT_COMMANDS_H
 #define ZUNDE_CLI_DIRECT_COMMANDS_H
 
@@ -13,6 +14,7 @@ void AddMonitor(CLI::App& app, Action& action);
 void AddGuide(CLI::App& app, Action& action);
 // Under the catalogue family, which must already be there.
 void AddExportXmltv(CLI::App& app, Action& action);
+void AddEmit(CLI::App& app, Action& action);
 
 }  // namespace zcli
 

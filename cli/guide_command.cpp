@@ -10,6 +10,7 @@
 #include <ctime>
 #include <memory>
 
+#include "arg_checks.h"
 #include "direct_commands.h"
 #include "guide_window.h"
 #include "output.h"
@@ -103,7 +104,7 @@ void AddGuide(CLI::App& app, Action& action) {
   CLI::App* guide = app.add_subcommand("guide", "The operator's programme guide: channels down, half-hours across");
   guide->footer("Example: zunde-cli guide --activity 0 --from 18:00 --hours 2");
   guide->add_option("--activity", options->activity, "remote content activity (default 0)");
-  guide->add_option("--from", options->from, kFromHelp)->check(CLI::Validator(CheckFrom, "TIME"));
+  guide->add_option("--from", options->from, kFromHelp)->check(CLI::Validator(CheckTime, "TIME"));
   guide->add_option("--hours", options->hours, "how many hours across (default 3)")->check(CLI::Range(0.5, 24.0));
   guide->callback([options, &action] { action = [options] { return Guide(*options); }; });
 }

@@ -16,12 +16,10 @@ struct GuideRow {
   std::vector<FCRemoteProgram> programs;
 };
 
-// The time `text` names ("now", "HH:MM" today, or seconds since the
-// epoch); -1 when it names none.
+// The time `text` names, in any form CheckTime takes; -1 when it names none.
 long long ParseFrom(const std::string& text);
-// Help and check for an option taking such a time.
+// Help for an option taking such a time, checked with CheckTime.
 extern const char kFromHelp[];
-std::string CheckFrom(std::string& text);
 
 // The line-up of `activity` and its programmes in [start, start + seconds).
 // kOk, else the exit status after saying which call of `command` failed.

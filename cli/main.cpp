@@ -1,6 +1,7 @@
 // zunde-cli: the service's API from the command line, for people and scripts.
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 #include "command_runner.h"
 #include "direct_commands.h"
@@ -24,8 +25,8 @@ int main(int argc, char** argv) {
   CLI::App app("zunde-cli: call the live-content service (zunde-service) from the command line");
   app.footer(
       "Examples:\n  zunde-cli env set US en\n  zunde-cli --json stb channels 0 0\n  zunde-cli guide --hours 2\n"
-      "  zunde-cli monitor --count 1 --timeout 10\n"
-      "Exit status: 0 success, 1 the service answered \"ret\" false, 2 usage error, 3 service not reachable.");
+      "  zunde-cli monitor --timeout 1\n"
+      "Exit status: 0 success, 1 the call failed or the answer is no, 2 usage error, 3 service not reachable.");
   app.set_version_flag("--version", ZUNDE_CLI_VERSION);
   app.fallthrough();
   app.require_subcommand(1);
@@ -41,13 +42,26 @@ int main(int argc, char** argv) {
   zcli::AddMonitor(app, action);
   zcli::AddGuide(app, action);
   zcli::AddExportXmltv(app, action);
+  zcli::AddEmit(app, action);
 
+  // Every "Example: " line of every help text, one a line, for the test that runs them all.
+  bool examples = false;
+  app.add_flag("--examples", examples)->group("");
   try {
     app.parse(argc, argv);
+    if (examples) return zcli::PrintExamples(app);
   } catch (const CLI::ParseError& error) {
+    if (examples) return zcli::PrintExamples(app);
     if (error.get_exit_code() == 0) return app.exit(error);
     std::fprintf(stderr, "zunde-cli: %s (see zunde-cli --help)\n", error.what());
     return zcli::kUsage;
   }
-  return action ? action() : zcli::kUsage;
+  if (!action) return zcli::kUsage;
+  // A reply the library could not read throws through the API to its caller.
+  try {
+    return action();
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "zunde-cli: the service's reply could not be read: %s\n", error.what());
+    return zcli::kRefused;
+  }
 }

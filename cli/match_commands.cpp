@@ -14,8 +14,8 @@ const Arg kAct{"ACTIVITY", Kind::Int, "remote content activity"};
 
 Family MatchFamily() {
   return {"match", "Match broadcast service ids and catalogue channels", {
-    {"channel", "The catalogue channel of a broadcast service id", "zunde-cli match channel 0 4097",
-     {kAct, {"SERVICE_ID", Kind::Unsigned, "broadcast service id"}},
+    {"channel", "The catalogue channel of a broadcast service id", "zunde-cli match channel 0 38293928476773",
+     {kAct, {"SERVICE_ID", Kind::Unsigned64, "broadcast service id"}},
      [](const Args& a, Json::Value& out) {
        unsigned long long service = a.u(1);
        FCRemoteChannel channel;
@@ -24,8 +24,8 @@ Family MatchFamily() {
        return ok;
      }},
     {"service-id", "The broadcast service id of a catalogue channel",
-     "zunde-cli match service-id 0 '{\"str_program_source_id\": \"src-1\"}'",
-     {kAct, {"CHANNEL", Kind::Json, "the channel's JSON form"}},
+     "zunde-cli match service-id 0 '{\"str_program_source_id\": \"10002\"}'",
+     {kAct, {"CHANNEL", Kind::Json, "the channel's JSON form", ShapeOf<FCRemoteChannel>()}},
      [](const Args& a, Json::Value& out) {
        FCRemoteChannel channel = a.rec<FCRemoteChannel>(1);
        unsigned long long service = 0;
@@ -34,7 +34,7 @@ Family MatchFamily() {
        return ok;
      }},
     {"service-id-by-source", "The broadcast service id of a programme source id",
-     "zunde-cli match service-id-by-source 0 src-1", {kAct, {"SOURCE_ID", Kind::Text, "programme source id"}},
+     "zunde-cli match service-id-by-source 0 10002", {kAct, {"SOURCE_ID", Kind::Text, "programme source id"}},
      [](const Args& a, Json::Value& out) {
        unsigned long long service = 0;
        const bool ok = Finder()->GetTCServiceIdByProgramSourceID(Act(a), a.s(1), service);

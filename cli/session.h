@@ -20,9 +20,13 @@ Options& GlobalOptions();
 // True when the service answers on the bus at all, whatever it answers.
 bool ServiceAnswers();
 
-// After a call that failed: kUnreachable with the message on how to start
-// zunde-service, or kRefused with a line naming `what`.
+// After a call that failed: one line naming `what` and why, from the
+// library's outcome of the call; kUnreachable when the bus or the service
+// failed, else kRefused.
 int ReportFailure(const std::string& what);
+
+// Whether the last call failed only because the service answered "ret" false.
+bool AnswerWasNo();
 
 // The message for a service that cannot be reached; kUnreachable.
 int ReportUnreachable();

@@ -11,7 +11,30 @@ Api* Stb() { return FCAPI::GetMBRNetworkChannelAPI(); }
 Api::EActivityID Act(const Args& a) { return static_cast<Api::EActivityID>(a.i(0)); }
 
 const Arg kAct{"ACTIVITY", Kind::Int, "activity slot, 0 to 4"};
-const Arg kChannel{"CHANNEL", Kind::Json, "a channel's JSON form, e.g. '{\"m_major\": 7, \"m_minor\": 1}'"};
+Json::Value ChannelShape() {
+  FCMBRNetworkChannel channel;
+  Json::Value shape(Json::objectValue);
+  FCMarshal::MBRNetworkChannelToJson(channel, shape);
+  return shape;
+}
+Json::Value ChannelTableShape() {
+  FCMBRNetworkChannelTable table;
+  table.AppendNetworkChannel(FCMBRNetworkChannel());
+  Json::Value shape(Json::objectValue);
+  FCMarshal::MBRNetworkChannelTableToJson(table, shape);
+  return shape;
+}
+Json::Value ProgramTableShape() {
+  FCMBRNetworkProgramTable table;
+  FCMBRNetworkProgram program;
+  table.AppendNetworkProgram(program);
+  Json::Value shape(Json::objectValue);
+  FCMarshal::MBRProgramTableToJson(table, shape);
+  return shape;
+}
+
+const Arg kChannel{"CHANNEL", Kind::Json, "a channel's JSON form, e.g. '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
+                   ChannelShape()};
 const Arg kQuery{"QUERY", Kind::Int, "0 every channel, 1 remembered, 2 favourites, 3 digital"};
 
 Json::Value Of(FCMBRNetworkChannel& channel) {
@@ -68,7 +91,7 @@ Command OnChannel(const char* name, const char* help, const char* example, bool 
 // Channel up or down from the channel given.
 Command Step(const char* name, const char* help, bool (Api::*method)(Api::EActivityID, FCMBRNetworkChannel&,
                                                                      FCMBRNetworkChannel&)) {
-  return {name, help, (std::string("zunde-cli stb ") + name + " 0 '{\"m_major\": 7, \"m_minor\": 1}'"),
+  return {name, help, (std::string("zunde-cli stb ") + name + " 0 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'"),
           {kAct, kChannel}, [method](const Args& a, Json::Value& out) {
             FCMBRNetworkChannel current = ChannelArg(a, 1), next;
             const bool ok = (Stb()->*method)(Act(a), current, next);
@@ -97,6 +120,24 @@ std::vector<Command> Commands() {
        return ok;
      }},
     OnActivity("delete", "Delete an activity slot", &Api::DeleteActivityID),
+    // After the slot is deleted, so that the examples after them find a channel and its programme.
+    {"set-channels", "Replace the channel map", "zunde-cli stb set-channels 0 '{\"MBR channel table\": [{\"m_major\": 7, \"m_originMajor\": 7, \"m_minor\": 1, \"m_name\": \"News\", \"m_channelID\": 7}]}'",
+     {kAct, {"TABLE", Kind::Json, "{\"MBR channel table\": [channels]}", ChannelTableShape()}},
+     [](const Args& a, Json::Value&) {
+       FCMBRNetworkChannelTable table;
+       Json::Value value = a.json(1);
+       FCMarshal::JsonToMBRNetworkChannelTable(value, table);
+       return Stb()->SetMBRNetworkChannelMap(Act(a), table);
+     }},
+    {"set-programs", "Replace the programme map of a channel id",
+     "zunde-cli stb set-programs 7 '{\"mbrProgramTable\": [{\"m_startTime\": 1767225600, \"m_duration\": 315360000, \"m_title\": \"News loop\", \"m_channelID\": 7, \"m_programID\": \"n1\"}]}'",
+     {{"CHANNEL_ID", Kind::Text, "channel id"}, {"TABLE", Kind::Json, "{\"mbrProgramTable\": [programmes]}", ProgramTableShape()}},
+     [](const Args& a, Json::Value&) {
+       FCMBRNetworkProgramTable table;
+       Json::Value value = a.json(1);
+       FCMarshal::JsonToMBRProgramTable(value, table);
+       return Stb()->SetMBRNetworkProgramMap(table, a.s(0));
+     }},
     {"bind", "Bind an activity slot to a TV source", "zunde-cli stb bind 0 3",
      {kAct, {"SOURCE", Kind::Int, "TV input source"}},
      [](const Args& a, Json::Value&) { return Stb()->SetActivityIDSourceID(Act(a), static_cast<ESource>(a.i(1))); }},
@@ -113,32 +154,25 @@ std::vector<Command> Commands() {
     OnActivity("save", "Save the channel map", &Api::SaveMBRNetworkChannelMap),
     OnActivity("edit-done", "Tell the service the user's channel edit is complete",
                &Api::NotifyMBRChannelEditCompleted),
-    {"current-program", "The current channel and its programme", "zunde-cli stb current-program 0", {kAct},
+    {"current-program", "The programme on a channel now", "zunde-cli stb current-program 0 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
+     {kAct, kChannel},
      [](const Args& a, Json::Value& out) {
-       FCMBRNetworkChannel channel;
+       FCMBRNetworkChannel channel = ChannelArg(a, 1);
        FCMBRNetworkProgram program;
        const bool ok = Stb()->GetCurrentMBRNetworkProgram(Act(a), channel, program);
        out["channel"] = Of(channel);
        out["program"] = Of(program);
        return ok;
      }},
-    {"program-at", "The channel and programme at a time", "zunde-cli stb program-at 0 1767225600",
-     {kAct, {"TIME", Kind::Unsigned, "seconds since the epoch"}},
+    {"program-at", "The programme on a channel at a time", "zunde-cli stb program-at 0 '{\"m_major\": 7, \"m_minor\": 1}' now",
+     {kAct, kChannel, {"TIME", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"}},
      [](const Args& a, Json::Value& out) {
-       FCMBRNetworkChannel channel;
+       FCMBRNetworkChannel channel = ChannelArg(a, 1);
        FCMBRNetworkProgram program;
-       const bool ok = Stb()->GetCurrentMBRNetworkProgrambyCurrentTime(Act(a), a.u(1), channel, program);
+       const bool ok = Stb()->GetCurrentMBRNetworkProgrambyCurrentTime(Act(a), a.u(2), channel, program);
        out["channel"] = Of(channel);
        out["program"] = Of(program);
        return ok;
-     }},
-    {"set-channels", "Replace the channel map", "zunde-cli stb set-channels 0 '{\"MBR channel table\": [{\"m_major\": 7, \"m_minor\": 1, \"m_name\": \"News\", \"m_channelID\": 7}]}'",
-     {kAct, {"TABLE", Kind::Json, "{\"MBR channel table\": [channels]}"}},
-     [](const Args& a, Json::Value&) {
-       FCMBRNetworkChannelTable table;
-       Json::Value value = a.json(1);
-       FCMarshal::JsonToMBRNetworkChannelTable(value, table);
-       return Stb()->SetMBRNetworkChannelMap(Act(a), table);
      }},
     {"channels", "List the channel map", "zunde-cli stb channels 0 0", {kAct, kQuery},
      [](const Args& a, Json::Value& out) {
@@ -157,46 +191,49 @@ std::vector<Command> Commands() {
        out = Of(channel);
        return ok;
      }},
-    {"exists", "Whether a major and minor number is in the map (status 1 when not)", "zunde-cli stb exists 0 7 1",
+    YesNo({"exists", "Whether a major and minor number is in the map (status 1 when not)", "zunde-cli stb exists 0 7 1",
      {kAct, {"MAJOR", Kind::Int, "major number"}, {"MINOR", Kind::Int, "minor number"}},
      [](const Args& a, Json::Value& out) {
        return (out["exists"] = Stb()->ExistMBRNetworkChannelByMajorMinor(Act(a), a.i(1), a.i(2))).asBool();
-     }},
+     }}),
     OnChannel("add", "Add a channel", "zunde-cli stb add 0 '{\"m_major\": 9, \"m_minor\": 1, \"m_name\": \"Films\", \"m_channelID\": 9}'",
               &Api::AddNewMBRNetworkChannel),
     OnChannel("remove", "Remove a channel", "zunde-cli stb remove 0 '{\"m_major\": 9, \"m_minor\": 1}'",
               &Api::RemoveMBRNetworkChannel),
-    OnChannel("edit", "Store the user's edit of a channel (found by channel id and origin major)",
-              "zunde-cli stb edit 0 '{\"m_channelID\": 7, \"m_originMajor\": 7, \"m_major\": 70, \"m_name\": \"My news\"}'",
-              &Api::SetEditedMBRNetworkChannel),
+    {"edit", "Store the user's edit of a channel (found by channel id and origin major); only the fields given change",
+     "zunde-cli stb edit 0 '{\"m_channelID\": 7, \"m_originMajor\": 7, \"m_name\": \"My news\"}'",
+     {kAct, kChannel},
+     [](const Args& a, Json::Value& out) {
+       const Json::Value given = a.json(1);
+       FCMBRNetworkChannel channel;
+       if (!Stb()->GetMBRNetworkChannelByChannelIDOriginMajor(Act(a), std::to_string(given["m_channelID"].asInt()),
+                                                              std::to_string(given["m_originMajor"].asInt()), channel))
+         return false;
+       Json::Value merged = a.over(1, Of(channel));
+       FCMarshal::JsonToMBRNetworkChannel(merged, channel);
+       const bool ok = Stb()->SetEditedMBRNetworkChannel(Act(a), channel);
+       out["channel"] = Of(channel);
+       return ok;
+     }},
     {"remember", "Remember a channel or forget it", "zunde-cli stb remember 0 '{\"m_major\": 7, \"m_minor\": 1}' true",
      {kAct, kChannel, {"REMEMBER", Kind::Bool, "true or false"}},
      [](const Args& a, Json::Value&) {
        FCMBRNetworkChannel channel = ChannelArg(a, 1);
        return Stb()->SetRememberMBRNetworkChannel(Act(a), channel, a.b(2));
      }},
-    {"add-favorite", "Add a channel to a favourite list", "zunde-cli stb add-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1}'",
+    {"add-favorite", "Add a channel to a favourite list", "zunde-cli stb add-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
      {kAct, {"LIST", Kind::Int, "favourite list, 0 to 4"}, kChannel},
      [](const Args& a, Json::Value&) {
        FCMBRNetworkChannel channel = ChannelArg(a, 2);
        return Stb()->AddFavoriteMBRNetworkChannel(Act(a), static_cast<FCMBRNetworkChannel::EFavorite>(a.i(1)), channel);
      }},
     {"delete-favorite", "Delete a channel from a favourite list",
-     "zunde-cli stb delete-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1}'",
+     "zunde-cli stb delete-favorite 0 1 '{\"m_major\": 7, \"m_minor\": 1, \"m_channelID\": 7}'",
      {kAct, {"LIST", Kind::Int, "favourite list, 0 to 4"}, kChannel},
      [](const Args& a, Json::Value&) {
        FCMBRNetworkChannel channel = ChannelArg(a, 2);
        return Stb()->DeleteFavoriteMBRNetworkChannel(Act(a), static_cast<FCMBRNetworkChannel::EFavorite>(a.i(1)),
                                                      channel);
-     }},
-    {"set-programs", "Replace the programme map of a channel id",
-     "zunde-cli stb set-programs 7 '{\"mbrProgramTable\": [{\"m_startTime\": 1767225600, \"m_duration\": 1800, \"m_title\": \"News\", \"m_channelID\": 7, \"m_programID\": \"n1\"}]}'",
-     {{"CHANNEL_ID", Kind::Text, "channel id"}, {"TABLE", Kind::Json, "{\"mbrProgramTable\": [programmes]}"}},
-     [](const Args& a, Json::Value&) {
-       FCMBRNetworkProgramTable table;
-       Json::Value value = a.json(1);
-       FCMarshal::JsonToMBRProgramTable(value, table);
-       return Stb()->SetMBRNetworkProgramMap(table, a.s(0));
      }},
     {"programs", "The programme map of a channel id", "zunde-cli stb programs 7", {{"CHANNEL_ID", Kind::Text, "channel id"}},
      [](const Args& a, Json::Value& out) {
@@ -218,12 +255,12 @@ std::vector<Command> Commands() {
        out["minor"] = minor;
        return ok;
      }},
-    {"has-channels", "Whether a query finds any channel (status 1 when not)", "zunde-cli stb has-channels 0 2",
+    YesNo({"has-channels", "Whether a query finds any channel (status 1 when not)", "zunde-cli stb has-channels 0 0",
      {kAct, kQuery},
      [](const Args& a, Json::Value& out) {
        return (out["exists"] = Stb()->ExistChannelInActivityID(Act(a), static_cast<Api::EMBRNetworkChannelQuery>(a.i(1))))
            .asBool();
-     }},
+     }}),
     {"featured", "The featured channels, best first", "zunde-cli stb featured 0", {kAct},
      [](const Args& a, Json::Value& out) {
        FCMBRNetworkChannelTable table;
@@ -239,8 +276,8 @@ std::vector<Command> Commands() {
        out = Of(channel);
        return ok;
      }},
-    {"reset", "Reset every activity", "zunde-cli stb reset", {},
-     [](const Args&, Json::Value&) { return Stb()->Reset(); }},
+    Local({"reset", "Reset every activity", "zunde-cli stb reset", {},
+           [](const Args&, Json::Value&) { return Stb()->Reset(); }}),
   };
   for (auto [name, what, sample, set, get] :
        {std::make_tuple("zip", "zip code", "10001", &Api::SetZipCode, &Api::GetZipCode),
@@ -249,7 +286,11 @@ std::vector<Command> Commands() {
         std::make_tuple("device", "device type", "cable", &Api::SetDeviceType, &Api::GetDeviceType),
         std::make_tuple("headend", "head-end id", "NY31519", &Api::SetHeadEndID, &Api::GetHeadEndID),
         std::make_tuple("location", "location", "living-room", &Api::SetLocation, &Api::GetLocation)})
-    for (Command& row : Setting(name, what, sample, set, get)) rows.push_back(row);
+    for (Command& row : Setting(name, what, sample, set, get)) {
+      // The library answers these with false: there is no example that succeeds.
+      if (set == &Api::SetAdditionalInfo) row = Local(row), row.example.clear();
+      rows.push_back(row);
+    }
   return rows;
 }
 

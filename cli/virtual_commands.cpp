@@ -9,9 +9,10 @@ namespace {
 using Api = FCVirtualChannelsAPI;
 Api* Vc() { return FCAPI::GetVirtualChannelsAPI(); }
 
-const Arg kService{"SERVICE_ID", Kind::Unsigned, "virtual channel service id"};
-const Arg kId{"PROGRAM_ID", Kind::Json, "a programme id's JSON form, as `virtual present` prints it"};
-const char* const kIdSample = " '{\"program_id\": {\"TCServiceId\": \"8193\", \"event_id\": \"e1\"}}'";
+const Arg kService{"SERVICE_ID", Kind::Unsigned64, "virtual channel service id"};
+const Arg kId{"PROGRAM_ID", Kind::Json, "a programme id's JSON form, as `virtual present` prints it",
+              ShapeOf<FCVirtualProgramId>()};
+const char* const kIdSample = " '{\"program_id\": {\"TCServiceId\": \"281466386841601\", \"event_id\": \"1795500000\", \"start_time\": 1795500000, \"duration\": 8100}}'";
 
 // A picture of a programme: its address.
 Command Picture(const char* name, const char* help, bool (Api::*method)(FCVirtualProgramId const&, std::string&)) {
@@ -28,8 +29,8 @@ Command Picture(const char* name, const char* help, bool (Api::*method)(FCVirtua
 
 Family VirtualFamily() {
   return {"virtual", "Virtual (internet-delivered) channels: programmes, pictures, on-demand slots", {
-    {"programs", "The programmes of a channel in a time window", "zunde-cli virtual programs 8193 1767225600 7200",
-     {kService, {"START", Kind::Unsigned, "seconds since the epoch"}, {"DURATION", Kind::Unsigned, "seconds"}},
+    {"programs", "The programmes of a channel in a time window", "zunde-cli virtual programs 281466386841601 now 7200",
+     {kService, {"START", Kind::Time, "seconds since the epoch, now, now+90m or HH:MM"}, {"DURATION", Kind::Unsigned, "seconds"}},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        std::map<unsigned int, FCVirtualProgramData> programs;
@@ -53,7 +54,7 @@ Family VirtualFamily() {
        out = J(program);
        return ok;
      }},
-    {"present", "The programme on a channel now", "zunde-cli virtual present 8193", {kService},
+    {"present", "The programme on a channel now", "zunde-cli virtual present 281466386841601", {kService},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        FCVirtualProgramData program;
@@ -61,7 +62,7 @@ Family VirtualFamily() {
        out = J(program);
        return ok;
      }},
-    {"logo", "The logo of a channel", "zunde-cli virtual logo 8193 1",
+    {"logo", "The logo of a channel", "zunde-cli virtual logo 281466386841601 1",
      {kService, {"SIZE", Kind::Int, "logo size"}},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
@@ -82,8 +83,8 @@ Family VirtualFamily() {
        return id != 0;
      }},
     {"set-on-demand", "Put a programme in a channel's on-demand slot",
-     "zunde-cli virtual set-on-demand 8193 '{\"id\": \"vod-1\", \"title\": \"Film\"}'",
-     {kService, {"PROGRAM", Kind::Json, "the programme's JSON form"}},
+     "zunde-cli virtual set-on-demand 281466386841601 '{\"id\": \"vod-1\", \"title\": \"Film\"}'",
+     {kService, {"PROGRAM", Kind::Json, "the programme's JSON form", ShapeOf<FCVirtualProgramData>()}},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        FCVirtualProgramId id;
@@ -93,7 +94,7 @@ Family VirtualFamily() {
      }},
     {"unset-on-demand", "Empty an on-demand slot", std::string("zunde-cli virtual unset-on-demand") + kIdSample, {kId},
      [](const Args& a, Json::Value&) { return Vc()->UnsetOnDemandProgram(a.rec<FCVirtualProgramId>(0)); }},
-    {"on-demand-id", "The programme id in a channel's on-demand slot", "zunde-cli virtual on-demand-id 8193", {kService},
+    {"on-demand-id", "The programme id in a channel's on-demand slot", "zunde-cli virtual on-demand-id 281466386841601", {kService},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        FCVirtualProgramId id;
@@ -108,7 +109,7 @@ Family VirtualFamily() {
        out = J(config);
        return ok;
      }},
-    {"featured", "The featured information of a channel", "zunde-cli virtual featured 8193", {kService},
+    {"featured", "The featured information of a channel", "zunde-cli virtual featured 281466386841601", {kService},
      [](const Args& a, Json::Value& out) {
        const unsigned long long service = a.u(0);
        FCVirtualChannelInfo info;
@@ -116,7 +117,7 @@ Family VirtualFamily() {
        out = J(info);
        return ok;
      }},
-    {"service-id", "The service id of an on-TV provider and service", "zunde-cli virtual service-id provider-1 service-1",
+    {"service-id", "The service id of an on-TV provider and service", "zunde-cli virtual service-id ontv-provider-1 ontv-movies",
      {{"PROVIDER", Kind::Text, "on-TV provider id"}, {"SERVICE", Kind::Text, "on-TV service id"}},
      [](const Args& a, Json::Value& out) {
        unsigned long long service = 0;
@@ -124,20 +125,24 @@ Family VirtualFamily() {
        out["service_id"] = Json::UInt64(service);
        return ok;
      }},
-    {"log-kpi", "Send a usage statistics event", "zunde-cli virtual log-kpi 1 watch channel 'watched 8193'",
+    {"log-kpi", "Send a usage statistics event", "ZUNDE_VCONF_FILE=<(echo db/menu/corvina/homedatacontrol/defaultdisclaimeragree=1) "
+     "ZUNDE_SYSTEM_INFO_FILE=<(echo SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT=true) "
+     "zunde-cli virtual log-kpi 1 watch channel 'watched 281466386841601'",
      {{"TYPE", Kind::Int, "KPI type"}, {"EVENT", Kind::Text, "event name"}, {"CATEGORY", Kind::Text, "category"},
       {"DESC", Kind::Text, "description"}},
      [](const Args& a, Json::Value&) {
        std::string event = a.s(1), category = a.s(2), desc = a.s(3);
        return Vc()->SendLogKPI(static_cast<Api::EKPIType>(a.i(0)), event, category, desc);
      }},
-    {"viewing-agreement", "Whether the viewing agreement is given (status 1 when not)",
-     "zunde-cli virtual viewing-agreement", {},
-     [](const Args&, Json::Value& out) { return (out["agreed"] = Vc()->GetViewingAgreement()).asBool(); }},
-    {"program-info", "Whether programme information is available (status 1 when not)",
-     "zunde-cli virtual program-info", {},
-     [](const Args&, Json::Value& out) { return (out["available"] = Vc()->KivoProgramInfoIsAvailable()).asBool(); }},
-    {"reset", "Reset the virtual channel state", "zunde-cli virtual reset", {},
+    YesNo({"viewing-agreement", "Whether the viewing agreement is given (status 1 when not)",
+           "zunde-cli virtual viewing-agreement", {},
+           [](const Args&, Json::Value& out) { return (out["agreed"] = Vc()->GetViewingAgreement()).asBool(); }}),
+    YesNo({"program-info", "Whether programme information is available (status 1 when not)",
+           "zunde-cli virtual program-info", {},
+           [](const Args&, Json::Value& out) {
+             return (out["available"] = Vc()->KivoProgramInfoIsAvailable()).asBool();
+           }}),
+    {"reset", "Reset the whole service to its defaults (every family, not only virtual channels)", "zunde-cli virtual reset", {},
      [](const Args&, Json::Value&) { return Vc()->Reset(); }},
   }};
 }

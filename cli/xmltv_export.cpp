@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "arg_checks.h"
 #include "direct_commands.h"
 #include "guide_window.h"
 #include "session.h"
@@ -121,7 +122,7 @@ void AddExportXmltv(CLI::App& app, Action& action) {
       "export-xmltv", "The line-up and its guide as XMLTV on standard output");
   exporter->footer("Example: zunde-cli catalogue export-xmltv --activity 0 --from now --hours 6 > guide.xml");
   exporter->add_option("--activity", options->activity, "remote content activity (default 0)");
-  exporter->add_option("--from", options->from, kFromHelp)->check(CLI::Validator(CheckFrom, "TIME"));
+  exporter->add_option("--from", options->from, kFromHelp)->check(CLI::Validator(CheckTime, "TIME"));
   exporter->add_option("--hours", options->hours, "how many hours of guide (default 24)")->check(CLI::Range(0.5, 720.0));
   exporter->callback([options, &action] { action = [options] { return Export(*options); }; });
 }

@@ -42,6 +42,7 @@
 
 // API entry and interfaces
 #include "BrisvelDefine.h"
+#include "FCCallStatus.h"
 #include "FCMBRNetworkChannelAPI.h"
 #include "FCMarshal.h"
 #include "FCObjectFactoryKR.h"

@@ -1,23 +1,15 @@
-// The numbered events the service sends after a change; README.md lists
-// them with their parameters.
+// The events the service sends after a change. Their numbers, names and
+// parameters are shared with applications (ZundeEvents.h); here are the
+// values the parameters carry.
 #ifndef ZUNDE_SERVICE_EVENTS_H
 #define ZUNDE_SERVICE_EVENTS_H
 
 #include <array>
 #include <cstdint>
 
-namespace zunde::service {
+#include "ZundeEvents.h"
 
-enum EventNumber : int {
-  kEventStateReset = 1,          // param1: 0 the whole state, 1 the environment only
-  kEventEnvironmentChanged = 2,  // param1: what changed (EnvironmentPart)
-  kEventActivityChanged = 10,    // param1: activity, param2: its source (-1: deleted)
-  kEventSetTopBoxSetting = 11,   // param1: activity, param2: which setting (SetTopBoxSetting)
-  kEventChannelMapChanged = 12,  // param1: activity, param2: number of channels
-  kEventFavoriteChanged = 13,    // param1: activity, param2: favourite list, param3: its size
-  kEventChannelEditCompleted = 14,  // param1: activity
-  kEventProgramMapChanged = 15,     // param1: number of programmes, param2: 0 set, 1 cleared
-};
+namespace zunde::service {
 
 enum EnvironmentPart : int32_t { kCountryAndLanguage = 1, kRecommendType = 2, kUserId = 3, kAccessToken = 4 };
 

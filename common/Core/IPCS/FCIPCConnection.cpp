@@ -7,6 +7,7 @@
 
 #include "FCDebug.h"
 #include "FCIPCCallLane_internal.h"
+#include "FCIPCError_internal.h"
 #include "FCIPCNames_internal.h"
 #include "FCIPCWire_internal.h"
 #include "FCLog_internal.h"
@@ -85,17 +86,20 @@ int FCIPCConnection::Call(std::string const& destination, char const* method, FC
                                                       destination.c_str(), zunde::bus::kCallMember);
   if (message == nullptr) {
     FC_LOG_WARN(0, "IPCS: Error at message creation\n");
+    zunde::bus::RecordBusError("the method call message could not be made");
     return -1;
   }
 
   if (!zunde::bus::AppendTextAndPayload(message, method, request)) {
     FC_LOG_WARN(0, "IPCS: Out of memory\n\n");
+    zunde::bus::RecordBusError("out of memory while writing the request");
     dbus_message_unref(message);
     return -1;
   }
 
   if (m_pConnection == nullptr) {
     FC_LOG_WARN(0, "m_pConnection is NULL\n");
+    zunde::bus::RecordBusError("there is no connection to the system bus");
     dbus_message_unref(message);
     return -1;
   }
@@ -111,6 +115,7 @@ int FCIPCConnection::Call(std::string const& destination, char const* method, FC
   dbus_message_unref(message);
   if (answer == nullptr) {
     FC_LOG_WARN(0, "dbus_connection_send_with_reply_and_block: %s\n", error.message ? error.message : "");
+    zunde::bus::RecordBusError(error);
     dbus_error_free(&error);
     return -1;
   }
@@ -118,6 +123,7 @@ int FCIPCConnection::Call(std::string const& destination, char const* method, FC
   DBusMessageIter results;
   if (!dbus_message_iter_init(answer, &results)) {
     FC_LOG_WARN(0, "IPCS: Message has no arguments!\n\n");
+    zunde::bus::RecordBusError("the reply carries no arguments");
     dbus_message_unref(answer);
     return -1;
   }

@@ -13,6 +13,8 @@
 #ifndef ZUNDE_BRISVELDEFINE_H
 #define ZUNDE_BRISVELDEFINE_H
 
+#include "FCCallStatus.h"
+
 // The six API interfaces; each has a header of its own.
 class FCMBRNetworkChannelAPI;
 class FCRFNetworkChannelAPI;
@@ -37,6 +39,9 @@ class FCAPI {
   static FCRemoteContent_MSOAPI* GetRemoteContentMSOAPI();
   static FIMatchFinder* GetMatchFinder();
   static FCVirtualChannelsAPI* GetVirtualChannelsAPI();
+
+  // The outcome of the calling thread's last API call (FCCallStatus.h).
+  static FCCallStatus GetLastCallStatus();
 
   // The misspelling is the published name.
   static bool is_initailzed;

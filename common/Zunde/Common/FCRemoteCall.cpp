@@ -1,6 +1,8 @@
 #include "FCRemoteCall_internal.h"
 
+#include "FCCallStatus_internal.h"
 #include "FCIPCConnection.h"
+#include "FCIPCError_internal.h"
 #include "FCIPCNames_internal.h"
 #include "FCMarshal.h"
 #include "FCMessageBuffer.h"
@@ -18,6 +20,9 @@ std::pair<const char*, const char*> ReplyBytes(FCMessageBuffer& reply) {
   return {bytes, bytes + (reply.GetFullBufferSize() - reply.GetReadOffset())};
 }
 
+const char kReplyNotJson[] = "the reply is not JSON";
+const char kReplyUnreadable[] = "the reply does not hold what the method reads";
+
 std::string ReplyText(FCMessageBuffer& reply) {
   const auto bytes = ReplyBytes(reply);
   return std::string(bytes.first, bytes.second);
@@ -31,8 +36,12 @@ bool TransmitBuffer(const CallLogLines& lines, const LogSite& site, const char* 
   FCMessageBuffer requestBuffer;
   requestBuffer.PushConcatenated(request.length(), const_cast<char*>(request.data()));
   const SlowCallWatch watch(member);
+  BeginCall(member);
+  bus::ClearLastBusError();
   if (connection->Call(std::string(bus::kCallListener), member, requestBuffer, reply) == -1) {
     WriteLogLine(lines.sendFailed, site, subject);
+    const std::string& why = bus::LastBusError();
+    EndCall(FCCallStatus::eCallBusFailure, why.empty() ? "the service answered with status -1" : why);
     return false;
   }
   return true;
@@ -56,7 +65,8 @@ RemoteCall& RemoteCall::Entry(const LogLine& line) {
   return *this;
 }
 
-RemoteCall& RemoteCall::Require(bool check) {
+RemoteCall& RemoteCall::Require(bool check, const char* reason) {
+  if (!rejected_ && !check) Refuse(member_, reason);
   rejected_ = rejected_ || !check;
   return *this;
 }
@@ -88,6 +98,7 @@ bool RemoteCall::Parse(FCMessageBuffer& replyBuffer, Json::Value& root) {
   const auto bytes = ReplyBytes(replyBuffer);
   if (ParseJsonText(bytes.first, bytes.second, root)) return true;
   WriteLogLine(lines_.parseFailed, site_);
+  EndCall(FCCallStatus::eCallBadReply, kReplyNotJson);
   return false;
 }
 
@@ -103,13 +114,26 @@ bool RemoteCall::Exchange(Json::Value& reply) {
 }
 
 void RemoteCall::ReadOutputs(Json::Value& reply) {
-  for (const auto& read : readers_) read(reply);
+  // A reader that cannot read the reply throws to the caller, as it always
+  // has; the outcome says so on the way.
+  try {
+    for (const auto& read : readers_) read(reply);
+  } catch (...) {
+    EndCall(FCCallStatus::eCallBadReply, kReplyUnreadable);
+    throw;
+  }
 }
 
 bool RemoteCall::Run() {
   Json::Value reply;
   if (!Exchange(reply)) return false;
-  const bool result = reply["ret"].asBool();
+  bool result = false;
+  try {
+    result = EndWithRet(reply);
+  } catch (...) {
+    EndCall(FCCallStatus::eCallBadReply, kReplyUnreadable);
+    throw;
+  }
   ReadOutputs(reply);
   return result;
 }
@@ -147,6 +171,7 @@ bool CallWithJsonArguments(const CallLogLines& lines, const char* member, const 
   if (!answered) return false;
   if (FCMarshal::ParseToJson(replyText, reply)) return true;
   WriteLogLine(lines.parseFailed, site, member);
+  EndCall(FCCallStatus::eCallBadReply, kReplyNotJson);
   return false;
 }
 
@@ -155,9 +180,10 @@ bool ParseReturnValue(const LogLine& parseFailed, const std::string& text, LogSi
   Json::Reader reader;
   if (!reader.parse(text, root, true)) {
     WriteLogLine(parseFailed, site);
+    EndCall(FCCallStatus::eCallBadReply, kReplyNotJson);
     return false;
   }
-  return root["ret"].asBool();
+  return EndWithRet(root);
 }
 
 }  // namespace zunde

@@ -64,8 +64,9 @@ class RemoteCall {
     if (!rejected_) WriteLogLineWith(line, site_, args...);
     return *this;
   }
-  // A failed check makes the call return false at once, sending nothing.
-  RemoteCall& Require(bool check);
+  // A failed check makes the call return false at once, sending nothing;
+  // `reason` names the check in the call's outcome.
+  RemoteCall& Require(bool check, const char* reason = "an argument is outside what the method accepts");
   // Asks the connection to connect before the call.
   RemoteCall& ConnectFirst();
   // Sends through `transport` (the split call) instead of directly.

@@ -1,5 +1,6 @@
 #include "MBRNetworkChannelManager_Proxy.h"
 
+#include "FCCallStatus_internal.h"
 #include "FCLog_internal.h"
 #include "FCMarshal.h"
 #include "FCRemoteCall_internal.h"
@@ -39,6 +40,7 @@ zunde::RemoteCall Call(const char* member, zunde::LogSite site = zunde::LogSite:
 
 // Activities 0 to 4; a negative one reads as a large unsigned number.
 bool InRange(Activity activity) { return static_cast<unsigned int>(activity) <= 4U; }
+const char kActivityRange[] = "the activity is not 0 to 4";
 
 // The remember flag travels under the key the replies use for their result.
 bool RememberAsRetToJson(bool remember, Json::Value& root) {
@@ -50,7 +52,7 @@ bool RememberAsRetToJson(bool remember, Json::Value& root) {
 
 bool FCMBRNetworkChannelManager_Proxy::Reset() {
   zunde::WriteLogLine(kLines.called, FC_LOG_SITE);
-  return true;
+  return zunde::AnswerLocally(__func__, true);
 }
 
 bool FCMBRNetworkChannelManager_Proxy::AllocateActivityIDBySourceID(int source, EActivityID& activity) {
@@ -58,7 +60,7 @@ bool FCMBRNetworkChannelManager_Proxy::AllocateActivityIDBySourceID(int source, 
     FC_LOG_RAW_MOD(
         LOG_ID_MAIN, DLOG_WARN, 2,
         "FCMBRNetworkChannelManager_Proxy::AllocateActivityIDBySourceID() return false. source is invalid!\n");
-    return false;
+    return zunde::Refuse("AllocateActivityIDBySourceID", "the source is -1");
   }
   return Call("AllocateActivityIDBySourceID")
       .Writes(FCMarshal::SourceToJson, source)
@@ -69,7 +71,7 @@ bool FCMBRNetworkChannelManager_Proxy::AllocateActivityIDBySourceID(int source, 
 bool FCMBRNetworkChannelManager_Proxy::DeleteActivityID(EActivityID activity) {
   EActivityID echoed = activity;  // the service answers with the activity; nobody needs it
   return Call("DeleteActivityID")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Reads(FCMarshal::JsonToEactivityID, echoed)
       .Run();
@@ -77,7 +79,7 @@ bool FCMBRNetworkChannelManager_Proxy::DeleteActivityID(EActivityID activity) {
 
 bool FCMBRNetworkChannelManager_Proxy::SetActivityIDSourceID(EActivityID activity, ESource source) {
   return Call("SetActivityIDSourceID")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(ENTRY_LINE("SetActivityIDSourceID(), activityId(%d), sourceId(%d)"
                         "(If failed, same source could exists on other activityId)\n"),
              activity, source)
@@ -97,7 +99,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetActivityIDBySourceID(int source, EActi
 bool FCMBRNetworkChannelManager_Proxy::SetZipCode(EActivityID activity, std::string& zipCode) {
   return Call("SetZipCode")
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::SetZipCode(), activityId(%d)\n"), activity)
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::ZipCodeToJson, zipCode)
       .Run();
@@ -106,21 +108,21 @@ bool FCMBRNetworkChannelManager_Proxy::SetZipCode(EActivityID activity, std::str
 bool FCMBRNetworkChannelManager_Proxy::GetZipCode(EActivityID activity, std::string& zipCode) {
   return Call("GetZipCode")
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetZipCode(), activityId(%d)\n"), activity)
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Reads(FCMarshal::JsonToZipCode, zipCode)
       .Run();
 }
 
-bool FCMBRNetworkChannelManager_Proxy::SetAdditionalInfo(EActivityID, std::string&) { return false; }
+bool FCMBRNetworkChannelManager_Proxy::SetAdditionalInfo(EActivityID, std::string&) { return zunde::AnswerLocally(__func__, false); }
 
-bool FCMBRNetworkChannelManager_Proxy::GetAdditionalInfo(EActivityID, std::string&) { return false; }
+bool FCMBRNetworkChannelManager_Proxy::GetAdditionalInfo(EActivityID, std::string&) { return zunde::AnswerLocally(__func__, false); }
 
 bool FCMBRNetworkChannelManager_Proxy::SetDeviceType(EActivityID activity, std::string& deviceType) {
   return Call("SetDeviceType")
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::SetDeviceType(), activityId(%d), deviceType[%s]\n"),
              activity, deviceType.c_str())
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::DeviceTypeToJson, deviceType)
       .Run();
@@ -129,7 +131,7 @@ bool FCMBRNetworkChannelManager_Proxy::SetDeviceType(EActivityID activity, std::
 bool FCMBRNetworkChannelManager_Proxy::GetDeviceType(EActivityID activity, std::string& deviceType) {
   return Call("GetDeviceType")
       .Entry(ENTRY_LINE("GetDeviceType(), activityId(%d)\n"), activity)
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Reads(FCMarshal::JsonToDeviceType, deviceType)
       .Run();
@@ -138,7 +140,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetDeviceType(EActivityID activity, std::
 bool FCMBRNetworkChannelManager_Proxy::SetHeadEndID(EActivityID activity, std::string& headEndId) {
   return Call("SetHeadEndID")
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::SetHeadEndID(), activityId(%d)\n"), activity)
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::HeadEndIDToJson, headEndId)
       .Run();
@@ -147,7 +149,7 @@ bool FCMBRNetworkChannelManager_Proxy::SetHeadEndID(EActivityID activity, std::s
 bool FCMBRNetworkChannelManager_Proxy::GetHeadEndID(EActivityID activity, std::string& headEndId) {
   return Call("GetHeadEndID")
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetHeadEndID(), activityId(%d)\n"), activity)
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Reads(FCMarshal::JsonToHeadEndID, headEndId)
       .Run();
@@ -157,7 +159,7 @@ bool FCMBRNetworkChannelManager_Proxy::SetLocation(EActivityID activity, std::st
   return Call("SetLocation")
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::SetLocation(), activityId(%d), location[%s]\n"), activity,
              location.c_str())
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::LocationToJson, location)
       .Run();
@@ -165,7 +167,7 @@ bool FCMBRNetworkChannelManager_Proxy::SetLocation(EActivityID activity, std::st
 
 bool FCMBRNetworkChannelManager_Proxy::GetLocation(EActivityID activity, std::string& location) {
   return Call("GetLocation")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetLocation(), activityId(%d)\n"), activity)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Reads(FCMarshal::JsonToLocation, location)
@@ -179,7 +181,7 @@ bool FCMBRNetworkChannelManager_Proxy::ConstructMBRNetworkChannelMap(EActivityID
 bool FCMBRNetworkChannelManager_Proxy::ConstructMBRNetworkProgramMap(EActivityID activity) {
   return Call("ConstructMBRNetworkProgramMap")
       .Entry(ENTRY_LINE("ConstructMBRNetworkProgramMap(), activityID : %d\n"), activity)
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Run();
 }
@@ -209,7 +211,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetCurrentMBRNetworkProgrambyCurrentTime(
 bool FCMBRNetworkChannelManager_Proxy::SetMBRNetworkChannelMap(EActivityID activity, FCMBRNetworkChannelTable& table) {
   return Call("SetMBRNetworkChannelMap")
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::SetMBRNetworkChannelMap(), activityID : %d\n"), activity)
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MBRNetworkChannelTableToJson, table)
       .Run();
@@ -218,7 +220,7 @@ bool FCMBRNetworkChannelManager_Proxy::SetMBRNetworkChannelMap(EActivityID activ
 bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelMap(EActivityID activity, FCMBRNetworkChannelTable& table,
                                                                FCMBRNetworkChannelAPI::EMBRNetworkChannelQuery query) {
   return Call("GetMBRNetworkChannelMap")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(
           ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelMap(), activityID : %d, queryType : %d\n"),
           activity, query)
@@ -231,7 +233,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelMap(EActivityID activ
 bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelUp(EActivityID activity, FCMBRNetworkChannel& current,
                                                               FCMBRNetworkChannel& next) {
   return Call("GetMBRNetworkChannelUp")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(ENTRY_LINE("GetMBRNetworkChannelUp()\n"))
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MBRNetworkChannelToJson, current)
@@ -242,7 +244,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelUp(EActivityID activi
 bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelDown(EActivityID activity, FCMBRNetworkChannel& current,
                                                                 FCMBRNetworkChannel& next) {
   return Call("GetMBRNetworkChannelDown")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelDown()\n"))
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MBRNetworkChannelToJson, current)
@@ -253,7 +255,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelDown(EActivityID acti
 bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelByMajorMinor(EActivityID activity, int major, int minor,
                                                                         FCMBRNetworkChannel& channel) {
   return Call("GetMBRNetworkChannelByMajorMinor")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelByMajorMinor()\n"))
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MajorMinorToJson, major, minor)
@@ -263,14 +265,14 @@ bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelByMajorMinor(EActivit
 
 bool FCMBRNetworkChannelManager_Proxy::SaveMBRNetworkChannelMap(EActivityID activity) {
   return Call("SaveMBRNetworkChannelMap")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Run();
 }
 
 bool FCMBRNetworkChannelManager_Proxy::AddNewMBRNetworkChannel(EActivityID activity, FCMBRNetworkChannel& channel) {
   return Call("AddNewMBRNetworkChannel")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(ENTRY_LINE("FCMBRNetworkChannelManager_Proxy::AddNewMBRNetworkChannel()\n"))
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MBRNetworkChannelToJson, channel)
@@ -280,7 +282,7 @@ bool FCMBRNetworkChannelManager_Proxy::AddNewMBRNetworkChannel(EActivityID activ
 bool FCMBRNetworkChannelManager_Proxy::SetRememberMBRNetworkChannel(EActivityID activity, FCMBRNetworkChannel& channel,
                                                                     bool remember) {
   return Call("SetRememberMBRNetworkChannel")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MBRNetworkChannelToJson, channel)
       .Writes(RememberAsRetToJson, remember)
@@ -289,7 +291,7 @@ bool FCMBRNetworkChannelManager_Proxy::SetRememberMBRNetworkChannel(EActivityID 
 
 bool FCMBRNetworkChannelManager_Proxy::ExistMBRNetworkChannelByMajorMinor(EActivityID activity, int major, int minor) {
   return Call("ExistMBRNetworkChannelByMajorMinor")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MajorMinorToJson, major, minor)
       .Run();
@@ -299,7 +301,7 @@ bool FCMBRNetworkChannelManager_Proxy::AddFavoriteMBRNetworkChannel(EActivityID 
                                                                     FCMBRNetworkChannel::EFavorite favorite,
                                                                     FCMBRNetworkChannel& channel) {
   return Call("AddFavoriteMBRNetworkChannel")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::EFavoriteToJson, favorite)
       .Writes(FCMarshal::MBRNetworkChannelToJson, channel)
@@ -310,7 +312,7 @@ bool FCMBRNetworkChannelManager_Proxy::DeleteFavoriteMBRNetworkChannel(EActivity
                                                                        FCMBRNetworkChannel::EFavorite favorite,
                                                                        FCMBRNetworkChannel& channel) {
   return Call("DeleteFavoriteMBRNetworkChannel")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::EFavoriteToJson, favorite)
       .Writes(FCMarshal::MBRNetworkChannelToJson, channel)
@@ -337,7 +339,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkProgrmaMap(FCMBRNetworkProgr
 
 bool FCMBRNetworkChannelManager_Proxy::RemoveMBRNetworkChannel(EActivityID activity, FCMBRNetworkChannel& channel) {
   return Call("RemoveMBRNetworkChannel")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MBRNetworkChannelToJson, channel)
       .Run();
@@ -345,7 +347,7 @@ bool FCMBRNetworkChannelManager_Proxy::RemoveMBRNetworkChannel(EActivityID activ
 
 bool FCMBRNetworkChannelManager_Proxy::GetMaxNumberOfMajorMinor(EActivityID activity, int& major, int& minor) {
   return Call("GetMaxNumberOfMajorMinor")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Reads(FCMarshal::JsonToMajorMinor, major, minor)
       .Run();
@@ -354,7 +356,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetMaxNumberOfMajorMinor(EActivityID acti
 bool FCMBRNetworkChannelManager_Proxy::ExistChannelInActivityID(EActivityID activity,
                                                                 FCMBRNetworkChannelAPI::EMBRNetworkChannelQuery query) {
   return Call("ExistChannelInActivityID")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::QueryTypeToJson, query)
       .Run();
@@ -366,7 +368,7 @@ void FCMBRNetworkChannelManager_Proxy::ClearMBRProgramMap() {
 
 bool FCMBRNetworkChannelManager_Proxy::GetFeaturedMBRChannels(EActivityID activity, FCMBRNetworkChannelTable& table) {
   return zunde::RemoteCall(kFeaturedLines, "GetFeaturedMBRChannels")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Entry(kFeaturedLines.called, activity)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Reads(FCMarshal::JsonToMBRNetworkChannelTable, table)
@@ -375,7 +377,7 @@ bool FCMBRNetworkChannelManager_Proxy::GetFeaturedMBRChannels(EActivityID activi
 
 bool FCMBRNetworkChannelManager_Proxy::SetEditedMBRNetworkChannel(EActivityID activity, FCMBRNetworkChannel& channel) {
   return Call("SetEditedMBRNetworkChannel")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::MBRNetworkChannelToJson, channel)
       .Run();
@@ -383,7 +385,7 @@ bool FCMBRNetworkChannelManager_Proxy::SetEditedMBRNetworkChannel(EActivityID ac
 
 bool FCMBRNetworkChannelManager_Proxy::NotifyMBRChannelEditCompleted(EActivityID activity) {
   return Call("NotifyMBRChannelEditCompleted")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Run();
 }
@@ -393,15 +395,15 @@ bool FCMBRNetworkChannelManager_Proxy::GetMBRNetworkChannelByChannelIDOriginMajo
                                                                                   std::string const& originMajor,
                                                                                   FCMBRNetworkChannel& channel) {
   return Call("GetMBRNetworkChannelByChannelIDOriginMajor")
-      .Require(InRange(activity))
+      .Require(InRange(activity), kActivityRange)
       .Writes(FCMarshal::EactivityIDToJson, activity)
       .Writes(FCMarshal::ChannelIdMajorToJson, channelId, originMajor)
       .Reads(FCMarshal::JsonToMBRNetworkChannel, channel)
       .Run();
 }
 
-bool FCMBRNetworkChannelManager_Proxy::SetZipCode(EActivityID, int) { return false; }
+bool FCMBRNetworkChannelManager_Proxy::SetZipCode(EActivityID, int) { return zunde::AnswerLocally(__func__, false); }
 
-bool FCMBRNetworkChannelManager_Proxy::GetZipCode(EActivityID, int&) { return false; }
+bool FCMBRNetworkChannelManager_Proxy::GetZipCode(EActivityID, int&) { return zunde::AnswerLocally(__func__, false); }
 
 unsigned long FCMBRNetworkChannelManager_Proxy::t_EpochTime() { return FCTimeWrapper::EpochTime(); }

@@ -4,6 +4,7 @@
 #include <system_info.h>
 #include <vconf.h>
 
+#include "FCCallStatus_internal.h"
 #include "FCLog_internal.h"
 #include "FCMarshal.h"
 #include "FCRemoteCall_internal.h"
@@ -92,7 +93,7 @@ bool FCVirtualChannels_Proxy::GetProgram(std::string const& in, std::string& out
   Json::Value request;
   if (!ParseText(in, request)) {
     FC_LOG_WARN_MOD(0, "[FCConnectedContent_Proxy::%s] fail to parse json input data\n", __func__);
-    return false;
+    return zunde::Refuse("GetProgram", "the request text is not JSON");
   }
   const bool relative = request.isObject() && request.isMember("program_indicator");
   return RemoteCallWithStringArguments(relative ? "GetProgramWithIndicator" : "GetProgram", in, out) &&
@@ -156,6 +157,7 @@ long FCVirtualChannels_Proxy::GetProgramImage(std::string const& in, std::string
   Json::Value reply;
   if (!ParseText(out, reply)) {
     zunde::WriteLogLine(kOutputNotJson, FC_LOG_SITE);
+    zunde::EndCall(FCCallStatus::eCallBadReply, "the reply is not JSON");
     return 0;
   }
   long downloadId = 0;
@@ -256,11 +258,11 @@ bool FCVirtualChannels_Proxy::SendLogKPI(EKPIType type, std::string& eventName, 
   if (vconf_get_int(kDisclaimerSetting, &agreed) != 0) {
     FC_LOG_WARN(0, "[FCVirtualChannels_Proxy::%s] db/menu/corvina/homedatacontrol/defaultdisclaimeragree Fail\n",
                 __func__);
-    return false;
+    return zunde::Refuse("SendLogKPI", "the setting of the user's consent to the home data disclaimer cannot be read");
   }
   if (agreed == 0) {
     FC_LOG_WARN(0, "[FCVirtualChannels_Proxy::%s] defaultdisclaimeragree is false \n", __func__);
-    return false;
+    return zunde::Refuse("SendLogKPI", "the user has not agreed to the home data disclaimer");
   }
   bool supported = false;
   if (system_info_get_value_bool(SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT, &supported) != SYSTEM_INFO_ERROR_NONE) {
@@ -268,11 +270,11 @@ bool FCVirtualChannels_Proxy::SendLogKPI(EKPIType type, std::string& eventName, 
                 "[FCVirtualChannels_Proxy::%s] system_info_get_value_bool(SYSTEM_INFO_KEY_VIRTUAL_CHANNEL_SUPPORT) "
                 "Fail\n",
                 __func__);
-    return false;
+    return zunde::Refuse("SendLogKPI", "the platform cannot say whether it supports virtual channels");
   }
   if (!supported && type == kFeatureKPIType) {
     FC_LOG_WARN(0, "[FCVirtualChannels_Proxy::%s] Kivo is NOT Supported \n", __func__);
-    return false;
+    return zunde::Refuse("SendLogKPI", "the platform does not support virtual channels");
   }
   return Call("SendLogKPI")
       .Through(RemoteCallWithJsonArguments)

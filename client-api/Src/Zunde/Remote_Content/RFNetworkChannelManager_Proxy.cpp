@@ -1,6 +1,7 @@
 #include "RFNetworkChannelManager_Proxy.h"
 
 #include "FCElementData.h"
+#include "FCCallStatus_internal.h"
 #include "FCLog_internal.h"
 #include "FCMarshal.h"
 #include "FCRFNetworkChannelTable.h"
@@ -52,7 +53,7 @@ bool RepGenreRequestToJson(std::vector<FCRepGenreInfo>& genres, Json::Value& roo
 
 bool FCRFNetworkChannelManager_Proxy::Reset() {
   FC_LOG_INFO_MOD(3, "FCRFNetworkChannelManager_Proxy::Reset()\n");
-  return true;
+  return zunde::AnswerLocally(__func__, true);
 }
 
 bool FCRFNetworkChannelManager_Proxy::SetNavigationMode(ENavigationMode mode) {
