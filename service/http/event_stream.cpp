@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "FCIPCNames_internal.h"
+#include "ZundeEvents.h"
 #include "http_reply.h"
 
 namespace zunde::service::http {
@@ -11,8 +12,9 @@ namespace {
 // Browsers and proxies drop a feed that stays silent too long.
 constexpr guint kKeepAliveSeconds = 15;
 
-// The signal as `zunde-cli monitor --json` prints it: the number, then the
-// three parameters (a missing one reads -1).
+// The signal as `zunde-cli monitor --json` prints it: the number, its name
+// ("?" for one the service does not send), then the three parameters (a
+// missing one reads -1).
 Json::Value EventJson(GVariant* parameters) {
   const gchar* number = nullptr;
   gint32 length = 0;
@@ -22,6 +24,8 @@ Json::Value EventJson(GVariant* parameters) {
   const auto* data = static_cast<const char*>(g_variant_get_fixed_array(bytes, &size, 1));
   Json::Value event(Json::objectValue);
   event["event"] = static_cast<int>(std::strtol(number, nullptr, 10));
+  const char* name = zunde::EventNameOf(event["event"].asInt());
+  event["name"] = name ? name : "?";
   for (gsize i = 0; i < 3; ++i) {
     gint32 param = -1;
     if (size >= (i + 1) * sizeof param) std::memcpy(&param, data + i * sizeof param, sizeof param);

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "FCIPCManager.h"
+#include "ZundeEvents.h"
 #include "http_reply.h"
 #include "page_assets.h"
 
@@ -29,6 +30,13 @@ bool ReadsAsRequest(const std::string& text, Json::Value& parsed) {
     return true;
   }
   return Json::Reader().parse(text, parsed, false) && parsed.isObject();
+}
+
+// "event" as a number, or as a name that zunde-cli emit also takes; -1 when neither.
+int EventOf(const Json::Value& body) {
+  const Json::Value& event = body["event"];
+  if (event.isInt()) return event.asInt();
+  return event.isString() ? zunde::EventNumberOf(event.asCString()) : -1;
 }
 
 }  // namespace
@@ -117,8 +125,8 @@ void PageServer::ServeEmit(SoupServerMessage* message) {
   const std::string refusal = guard_.ChangeRefusalOf(message);
   if (!refusal.empty()) return Refuse(message, SOUP_STATUS_FORBIDDEN, refusal);
   Json::Value body;
-  if (!ReadsAsRequest(RequestBody(message), body) || !body["event"].isInt()) {
-    return Refuse(message, SOUP_STATUS_BAD_REQUEST, "the request needs \"event\", an integer");
+  if (!ReadsAsRequest(RequestBody(message), body) || EventOf(body) == -1) {
+    return Refuse(message, SOUP_STATUS_BAD_REQUEST, "the request needs \"event\": a number or an event's name");
   }
   FCMessageBuffer payload;
   for (int i = 1; i <= 3; ++i) {
@@ -131,7 +139,7 @@ void PageServer::ServeEmit(SoupServerMessage* message) {
   // The library's own sender, as zunde-cli emit uses: what the page sends is
   // what an application's test would.
   auto* sender = static_cast<FCIPCManager*>(FIIPCManager::GetInstance());
-  if (!sender->m_Send(std::string(), FC_IPC_EVENT, body["event"].asInt(), payload)) {
+  if (!sender->m_Send(std::string(), FC_IPC_EVENT, EventOf(body), payload)) {
     return Refuse(message, SOUP_STATUS_SERVICE_UNAVAILABLE, "the signal could not be sent");
   }
   Json::Value reply(Json::objectValue);

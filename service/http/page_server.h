@@ -6,7 +6,7 @@
 //   GET  /api/member/NAME       a member that changes nothing; the request
 //                               document in the query as request=JSON
 //   POST /api/member/NAME       any member; the request document as the body
-//   POST /api/emit              an "Event" signal: {"event": N, "param1": ...}
+//   POST /api/emit              an "Event" signal: {"event": N or "Name", "param1": ...}
 //   GET  /api/events            server-sent events: each "Event" signal, and
 //                               "slow" when the slow switch turns
 //

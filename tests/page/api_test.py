@@ -27,7 +27,8 @@ REFUSALS = [
     ("a change by GET", "GET", "/api/member/Reset", None, True, {}, 405, "Reset changes state"),
     ("the slow switch by GET", "GET", "/api/member/ToggleZundeTimeoutTest?request=%7B%22ret%22%3Atrue%7D", None, True,
      {}, 405, "ToggleZundeTimeoutTest changes state"),
-    ("event without a number", "POST", "/api/emit", '{"event": "twelve"}', True, {}, 400, 'the request needs "event"'),
+    ("event neither number nor name", "POST", "/api/emit", '{"event": "twelve"}', True, {}, 400,
+     'the request needs "event"'),
     ("unknown path", "GET", "/api/members", None, True, {}, 404, "nothing at /api/members"),
 ]
 

@@ -83,9 +83,13 @@ class PageInBrowser(unittest.TestCase):
 
     def test_an_event_on_the_bus_shows_within_a_second(self):
         guide_rows(self.browser, 1)
-        self.service.cli("env", "set", "DE", "de")
+        self.service.cli("emit", "FavoriteChanged", "0", "1", "3")
         WebDriverWait(self.browser, 1).until(
-            lambda b: "2" in [e.text for e in b.find_elements(By.CSS_SELECTOR, "#events .event")])
+            lambda b: "13 FavoriteChanged (0, 1, 3)" in b.find_element(By.ID, "events").text)
+
+    def test_a_change_redraws_the_page_without_reloading(self):
+        guide_rows(self.browser, 1)
+        self.service.cli("env", "set", "DE", "de")
         WebDriverWait(self.browser, 2).until(lambda b: "DE" in b.find_element(By.ID, "environment").text)
 
 
@@ -97,7 +101,7 @@ def screenshot(path):
             browser.get(service.url)
             guide_rows(browser, 5)
             # One event sent from the page's own form, so that the list shows one.
-            for field, value in [("emit-event", "12"), ("emit-p1", "0"), ("emit-p2", "60")]:
+            for field, value in [("emit-event", "ChannelMapChanged"), ("emit-p1", "0"), ("emit-p2", "60")]:
                 browser.find_element(By.ID, field).clear()
                 browser.find_element(By.ID, field).send_keys(value)
             browser.find_element(By.CSS_SELECTOR, "#emit button").click()

@@ -151,7 +151,8 @@ function redrawSoon() { if (!pending) pending = setTimeout(drawAll, 150); }
 function showEvent(event) {
   const params = [event.param1, event.param2, event.param3].join(", ");
   const line = el("li", { className: "fresh" }, new Date().toLocaleTimeString() + " ",
-    el("b", { className: "event" }, String(event.event)), " " + (event.name || "") + " (" + params + ")");
+    el("b", { className: "event" }, String(event.event)), " ", el("span", { className: "name" }, event.name),
+    " (" + params + ")");
   const list = document.getElementById("events");
   list.prepend(line);
   setTimeout(() => line.classList.remove("fresh"), 2000);
@@ -172,7 +173,9 @@ async function act(work) {
 
 function emitRequest() {
   const number = id => Number(document.getElementById(id).value);
-  return { event: number("emit-event"), param1: number("emit-p1"), param2: number("emit-p2"), param3: number("emit-p3") };
+  const event = document.getElementById("emit-event").value.trim();
+  return { event: /^-?\d+$/.test(event) ? Number(event) : event,
+    param1: number("emit-p1"), param2: number("emit-p2"), param3: number("emit-p3") };
 }
 
 async function emit(request) {
