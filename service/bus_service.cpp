@@ -98,11 +98,7 @@ void BusService::Handle(GVariant* parameters, GDBusMethodInvocation* invocation)
   const std::string payload(static_cast<const char*>(data), size);
   g_variant_unref(bytes);
 
-  std::vector<Event> events;
-  const std::string answer = dispatcher_.Answer(member, payload, events);
-  __dlog_print(LOG_ID_MAIN, DLOG_DEBUG, kLogTag, "%s request %s answer %s", member, payload.c_str(), answer.c_str());
-  for (const Event& event : events) Emit(event);
-
+  const std::string answer = Answer(member, payload);
   if (!dispatcher_.Runtime().slow || dispatcher_.NeverDelayed(member)) {
     Return(invocation, answer);
     return;
@@ -111,6 +107,24 @@ void BusService::Handle(GVariant* parameters, GDBusMethodInvocation* invocation)
   auto* delayed = new Delayed{this, invocation, answer, 0};
   delayed->source = g_timeout_add(static_cast<guint>(slowReplyMs_), OnDelayElapsed, delayed);
   delayed_.insert(delayed);
+}
+
+std::string BusService::Answer(const std::string& member, const std::string& payload) {
+  const bool wasSlow = Slow();
+  std::vector<Event> events;
+  const std::string answer = dispatcher_.Answer(member, payload, events);
+  __dlog_print(LOG_ID_MAIN, DLOG_DEBUG, kLogTag, "%s request %s answer %s", member.c_str(), payload.c_str(),
+               answer.c_str());
+  for (const Event& event : events) Emit(event);
+  if (Slow() != wasSlow && slowTurned_) slowTurned_(Slow());
+  return answer;
+}
+
+bool BusService::Knows(const std::string& member) const { return dispatcher_.Find(member) != nullptr; }
+
+bool BusService::ChangesState(const std::string& member) const {
+  const Member* found = dispatcher_.Find(member);
+  return found != nullptr && (found->flags & (kChanges | kTurnsSwitch)) != 0;
 }
 
 gboolean BusService::OnDelayElapsed(gpointer data) {

@@ -27,6 +27,18 @@ class BusService {
   // Sends every answer still held back by the slow switch.
   void FlushDelayedAnswers();
 
+  // Answers a request that came by another way than the bus (the page), at
+  // once, and sends the events of its change as a bus call's would be.
+  std::string Answer(const std::string& member, const std::string& payload);
+  // The connection to the bus; null before Start.
+  GDBusConnection* Connection() const { return connection_; }
+  bool Slow() const { return dispatcher_.Runtime().slow; }
+  // Whether `member` changes anything, on disk or in memory.
+  bool ChangesState(const std::string& member) const;
+  bool Knows(const std::string& member) const;
+  // Runs after each answer that turned the slow switch.
+  void OnSlowTurned(std::function<void(bool slow)> listener) { slowTurned_ = std::move(listener); }
+
  private:
   struct Delayed;
   static void OnMethodCall(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar* method,
@@ -43,6 +55,7 @@ class BusService {
   guint ownerId_ = 0;
   guint registrationId_ = 0;
   std::set<Delayed*> delayed_;
+  std::function<void(bool)> slowTurned_;
 };
 
 }  // namespace zunde::service

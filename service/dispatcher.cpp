@@ -101,9 +101,14 @@ void Dispatcher::ReplaceCatalogue(const Catalogue& catalogue) {
   kept_.Forget();
 }
 
-bool Dispatcher::NeverDelayed(const std::string& member) const {
+const Member* Dispatcher::Find(const std::string& member) const {
   const auto found = members_.find(member);
-  return found != members_.end() && (found->second->flags & kNeverDelayed) != 0;
+  return found == members_.end() ? nullptr : found->second;
+}
+
+bool Dispatcher::NeverDelayed(const std::string& member) const {
+  const Member* found = Find(member);
+  return found != nullptr && (found->flags & kNeverDelayed) != 0;
 }
 
 void Dispatcher::Handle(const Member& member, Json::Value& body, Json::Value& reply, std::vector<Event>& events) {
@@ -127,13 +132,13 @@ std::string Dispatcher::Run(const Member& member, const std::string& payload, st
 }
 
 std::string Dispatcher::Answer(const std::string& member, const std::string& payload, std::vector<Event>& events) {
-  const auto found = members_.find(member);
-  if (found == members_.end()) return Refusal("unknown member \"" + member + "\"");
-  const bool keeps = (found->second->flags & kKeepsAnswer) != 0;
+  const Member* found = Find(member);
+  if (found == nullptr) return Refusal("unknown member \"" + member + "\"");
+  const bool keeps = (found->flags & kKeepsAnswer) != 0;
   if (const std::string* kept = keeps ? kept_.Find(member, payload) : nullptr) return *kept;
   std::vector<Event> raised;
   try {
-    std::string answer = Run(*found->second, payload, raised);
+    std::string answer = Run(*found, payload, raised);
     events.insert(events.end(), raised.begin(), raised.end());
     if (keeps) kept_.Keep(member, payload, answer);
     return answer;

@@ -31,6 +31,8 @@ class Dispatcher {
   bool NeverDelayed(const std::string& member) const;
 
   const RuntimeState& Runtime() const { return runtime_; }
+  // The row of `member`; null when there is none.
+  const Member* Find(const std::string& member) const;
 
  private:
   std::string Run(const Member& member, const std::string& payload, std::vector<Event>& events);

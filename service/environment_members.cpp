@@ -86,7 +86,7 @@ using T = JsonType;
 const MemberTable& EnvironmentMembers() {
   static const MemberTable table = {
       {"FCRemoteContent_Reset", {}, Reset, kChanges},
-      {"ToggleZundeTimeoutTest", {{"ret", T::Bool}}, ToggleTimeoutTest, kNeverDelayed},
+      {"ToggleZundeTimeoutTest", {{"ret", T::Bool}}, ToggleTimeoutTest, kNeverDelayed | kTurnsSwitch},
       {"SetRemoteContentEnv", {{"country", T::String}, {"language", T::String}}, SetEnv, kChanges},
       {"GetRemoteContentEnv", {}, GetEnv, kReads},
       {"GetRemoteContentActivityByTVSourceAndTSTVMode",

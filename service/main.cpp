@@ -19,6 +19,7 @@
 #include "catalogue_sources.h"
 #include "environment_state.h"
 #include "options.h"
+#include "page_server.h"
 
 namespace {
 
@@ -62,6 +63,18 @@ gboolean Quit(gpointer loop) {
   return G_SOURCE_CONTINUE;
 }
 
+// The page, when --http asks for it.
+bool StartPage(const Options& options, BusService& service, std::unique_ptr<http::PageServer>& page) {
+  if (options.httpPort == 0) return true;
+  page = std::make_unique<http::PageServer>(service, options.httpAddress, options.httpPort);
+  std::string error;
+  if (page->Start(error)) return true;
+  std::fprintf(stderr, "zunde-service: cannot serve the page on %s:%d: %s\n", options.httpAddress.c_str(),
+               options.httpPort, error.c_str());
+  page.reset();
+  return false;
+}
+
 int Serve(const Options& options) {
   if (!MakeFolder(options.dataDir)) return 1;
   std::unique_ptr<Store> store;
@@ -82,11 +95,13 @@ int Serve(const Options& options) {
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   int status = 0;
   {
+    std::unique_ptr<http::PageServer> page;
     BusService service(
         dispatcher, options.slowReplyMs,
-        [] {
+        [&] {
           // Scripts and tests wait for this line.
           std::printf("zunde-service ready\n");
+          if (page) std::printf("zunde-service page %s\n", page->Url().c_str());
           std::fflush(stdout);
         },
         [&] {
@@ -98,11 +113,13 @@ int Serve(const Options& options) {
     g_unix_signal_add(SIGINT, Quit, loop);
     Reload reload{options, *store, *catalogue, dispatcher};
     g_unix_signal_add(SIGHUP, OnHangup, &reload);
-    if (service.Start()) {
+    if (service.Start() && StartPage(options, service, page)) {
       g_main_loop_run(loop);
     } else {
       status = 1;
     }
+    // The page listens on the service's connection: it goes first.
+    page.reset();
   }
   g_main_loop_unref(loop);
   return status;

@@ -56,6 +56,7 @@ enum RowFlags : unsigned {
   kChanges = 1,          // changes state: runs in a transaction, and forgets kept answers
   kNeverDelayed = 2,     // answered at once even while the slow switch is on
   kKeepsAnswer = 4,      // its answer depends on the request, the state and the catalogue only
+  kTurnsSwitch = 8,      // changes what is kept in memory only (RuntimeState), so needs no transaction
 };
 
 struct Member {

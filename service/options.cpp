@@ -11,6 +11,7 @@ const char* const kUsage =
     "Usage: zunde-service [--data-dir DIR] [--slow-reply-ms N] [--catalogue FILE] [--lineup-size N]\n"
     "                     [--kpi-log-limit N] [--program-map-limit N] [--channel-map-limit N]\n"
     "                     [--read-only] [--max-store-pages N] [--xmltv FILE] [--m3u FILE]\n"
+    "                     [--http [ADDRESS:]PORT]\n"
     "       zunde-service [--lineup-size N] --write-default-catalogue FILE\n"
     "Answers the zunde-provider library on the bus that DBUS_SYSTEM_BUS_ADDRESS names\n"
     "(else the system bus), keeping its state in DIR/zunde-service.db.\n"
@@ -32,6 +33,8 @@ const char* const kUsage =
     "                      (a store that cannot be written is opened so anyway)\n"
     "  --max-store-pages N let the store grow to N pages of 4 KiB at most; a change that\n"
     "                      needs more is refused as on a full disk (default: no cap)\n"
+    "  --http [ADDRESS:]PORT  serve the page and its JSON API at http://ADDRESS:PORT/\n"
+    "                      (ADDRESS defaults to 127.0.0.1; off unless given)\n"
     "  --write-default-catalogue FILE  write the built-in set as a catalogue file and stop\n"
     "  --help, --version\n";
 
@@ -76,6 +79,16 @@ bool ParseNumberOption(Options& options, int argc, char** argv, int i) {
   return false;
 }
 
+// "[ADDRESS:]PORT"; an IPv6 address comes in brackets.
+bool ParseListenAddress(const std::string& text, Options& options) {
+  const size_t colon = text.rfind(':');
+  std::string address = colon == std::string::npos ? options.httpAddress : text.substr(0, colon);
+  if (address.size() > 1 && address.front() == '[' && address.back() == ']') address = address.substr(1, address.size() - 2);
+  if (address.empty()) return false;
+  options.httpAddress = address;
+  return ParseNumber(text.c_str() + (colon == std::string::npos ? 0 : colon + 1), options.httpPort, 1, 65535);
+}
+
 }  // namespace
 
 std::string DefaultDataDir() {
@@ -108,6 +121,8 @@ Options ParseOptions(int argc, char** argv) {
       ++i;
     } else if (std::strcmp(arg, "--read-only") == 0) {
       options.readOnly = true;
+    } else if (std::strcmp(arg, "--http") == 0 && hasValue && ParseListenAddress(argv[i + 1], options)) {
+      ++i;
     } else if (std::strcmp(arg, "--catalogue") == 0 && hasValue) {
       options.catalogue = argv[++i];
     } else if (std::strcmp(arg, "--xmltv") == 0 && hasValue) {

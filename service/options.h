@@ -19,6 +19,8 @@ struct Options {
   StorageLimits limits;     // how much of each growing table is kept
   bool readOnly = false;    // open the store read-only: changes are refused
   int maxStorePages = 0;    // cap on the store's pages; 0 = none
+  std::string httpAddress = "127.0.0.1";  // where the page listens
+  int httpPort = 0;         // the page's port; 0 = no page
   bool exitNow = false;     // --help or --version was answered, or the line was wrong
   int exitCode = 0;
 };
