@@ -29,7 +29,8 @@ Command Step(const char* name, const char* help,
 // The programme before or after the one given.
 Command Beside(const char* name, const char* help,
                bool (Api::*method)(FCRemoteProgram const&, FCRemoteProgram&)) {
-  return {name, help, std::string("zunde-cli rf ") + name + " '{\"program id\": \"38293928476773:1795501800\", \"utc start time\": 1795501800}'",
+  return {name, help, std::string("zunde-cli rf ") + name +
+                       R"( "{\"program id\": \"38293928476773:$(date +%s)\", \"utc start time\": $(date +%s)}")",
           {kProgram}, [method](const Args& a, Json::Value& out) {
             FCRemoteProgram found;
             const bool ok = (Rf()->*method)(a.rec<FCRemoteProgram>(0), found);

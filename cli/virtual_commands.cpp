@@ -10,9 +10,13 @@ using Api = FCVirtualChannelsAPI;
 Api* Vc() { return FCAPI::GetVirtualChannelsAPI(); }
 
 const Arg kService{"SERVICE_ID", Kind::Unsigned64, "virtual channel service id"};
-const Arg kId{"PROGRAM_ID", Kind::Json, "a programme id's JSON form, as `virtual present` prints it",
+const Arg kId{"PROGRAM_ID", Kind::Json,
+              "{\"program_id\": {\"TCServiceId\": ..., \"event_id\": ..., \"start_time\": ..., \"duration\": ...}}",
               ShapeOf<FCVirtualProgramId>()};
 const char* const kIdSample = " '{\"program_id\": {\"TCServiceId\": \"281466386841601\", \"event_id\": \"1795500000\", \"start_time\": 1795500000, \"duration\": 8100}}'";
+// The programme on air now: the schedule answers only inside its window.
+const char* const kIdNowSample =
+    R"( "{\"program_id\": {\"TCServiceId\": \"281466386841601\", \"event_id\": \"\", \"start_time\": $(date +%s), \"duration\": 0}}")";
 
 // A picture of a programme: its address.
 Command Picture(const char* name, const char* help, bool (Api::*method)(FCVirtualProgramId const&, std::string&)) {
@@ -38,7 +42,7 @@ Family VirtualFamily() {
        FCMarshal::VirtualProgramMapToJson(programs, out);
        return ok;
      }, {"key", "id", "starttime", "duration", "title"}},
-    {"program", "A programme by its id", std::string("zunde-cli virtual program") + kIdSample, {kId},
+    {"program", "A programme by its id", std::string("zunde-cli virtual program") + kIdNowSample, {kId},
      [](const Args& a, Json::Value& out) {
        FCVirtualProgramData program;
        const bool ok = Vc()->GetProgram(a.rec<FCVirtualProgramId>(0), program);
@@ -46,7 +50,7 @@ Family VirtualFamily() {
        return ok;
      }},
     {"program-beside", "The programme an indicator names relative to a programme",
-     std::string("zunde-cli virtual program-beside 1") + kIdSample,
+     std::string("zunde-cli virtual program-beside 1") + kIdNowSample,
      {{"INDICATOR", Kind::Int, "which programme relative to the one given"}, kId},
      [](const Args& a, Json::Value& out) {
        FCVirtualProgramData program;
