@@ -8,8 +8,8 @@
 // calls come from a worker process of its own; the workers time their calls
 // and this process takes the turns.
 // Run:
-//   build/benchmarks/service_benchmark --benchmark_min_time=1 --benchmark_repetitions=5 \
-//       --benchmark_report_aggregates_only=true
+//   build/benchmarks/service_benchmark --benchmark_min_time=1 --benchmark_repetitions=5
+//       --benchmark_report_aggregates_only=true   (one command line)
 #include <benchmark/benchmark.h>
 #include <sys/wait.h>
 #include <unistd.h>
